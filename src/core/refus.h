@@ -8,7 +8,14 @@
 
 namespace talor {
 
-enum class Icone { Aucune, Arret, Avertissement, Information, Question };
+enum class Icone
+{
+    Aucune,
+    Arret,
+    Avertissement,
+    Information,
+    Question
+};
 
 /// A message as the program shows it: what logic returns in place of showing it.
 struct Refus
@@ -21,10 +28,15 @@ struct Refus
 };
 
 /// The value of an action, or the refusal that stands in its place.
-template <class T> class Resultat {
+template<class T> class Resultat
+{
 public:
-    Resultat(T valeur) : m_contenu(std::move(valeur)) {}
-    Resultat(Refus refus) : m_contenu(std::move(refus)) {}
+    Resultat(T valeur)
+        : m_contenu(std::move(valeur))
+    {}
+    Resultat(Refus refus)
+        : m_contenu(std::move(refus))
+    {}
 
     explicit operator bool() const { return std::holds_alternative<T>(m_contenu); }
     const T& operator*() const { return std::get<T>(m_contenu); }
