@@ -1,5 +1,6 @@
 #include "core/configuration.h"
 
+#include "platform/store/error.h"
 #include "platform/store/maintenance.h"
 
 #include <QFile>
