@@ -29,18 +29,20 @@ void ajouter(Exercice& exercice, const QList<Ligne>& lignes)
 QString message(Exercice& exercice, const QString& nom)
 {
     const auto refus = verifier(exercice, nom);
-    if (refus)
-        EXPECT_EQ(*refus, (Refus{refus->texte, u"ATTENTION"_s, Icone::Arret}));
-    return refus ? refus->texte : QString();
+    if (!refus)
+        return {};
+    EXPECT_EQ(*refus, (Refus{refus->texte, u"ATTENTION"_s, Icone::Arret}));
+    return refus->texte;
 }
 
 /// The tree as a person reads it: an entry a line, two blanks a level.
 QString arbre(const QString& parent = {}, int niveau = 0)
 {
     QString texte;
-    for (const Entree& e : entrees())
+    for (const Entree& e : entrees()) {
         if (e.parent == parent)
             texte += QString(2 * niveau, u' ') + e.nom + u' ' + e.libelle + u'\n' + arbre(e.nom, niveau + 1);
+    }
     return texte;
 }
 
