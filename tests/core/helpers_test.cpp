@@ -23,7 +23,7 @@ TEST(Valeur, saute_les_blancs_et_s_arrete_au_premier_autre_caractere)
                                                       {u"--4", 0},
                                                       {u"123456789012", 123456789012.0}};
     for (const auto& [texte, valeur] : cas)
-        EXPECT_EQ(Valeur(QString(texte)), valeur) << QString(texte).toStdString();
+        EXPECT_EQ(Valeur(QString::fromUtf16(texte)), valeur) << QString::fromUtf16(texte).toStdString();
     EXPECT_EQ(ValeurEntiere(u"12.99"), 12);
     EXPECT_EQ(ValeurEntiere(u"99999999999999999999"), std::numeric_limits<qint64>::max());
 }
@@ -42,9 +42,9 @@ TEST(DateValide, connait_les_mois_et_ignore_la_regle_des_siecles)
                                   u"00/01/2026", u"12/13/2026", u"12/00/2026", u"01/01/1899",
                                   u"1/01/2026",  u"",           u"ab/cd/efgh", u"15/11/26"};
     for (const char16_t* texte : valides)
-        EXPECT_EQ(DateValide(QString(texte)), 0) << QString(texte).toStdString();
+        EXPECT_EQ(DateValide(QString::fromUtf16(texte)), 0) << QString::fromUtf16(texte).toStdString();
     for (const char16_t* texte : fautives)
-        EXPECT_EQ(DateValide(QString(texte)), 1) << QString(texte).toStdString();
+        EXPECT_EQ(DateValide(QString::fromUtf16(texte)), 1) << QString::fromUtf16(texte).toStdString();
 }
 
 TEST(Dates, changent_de_forme_par_caracteres)
