@@ -2,7 +2,10 @@
 
 namespace reports {
 
-/// Templates and laid-out pages measure in millimetres; a display list keeps tenths of a point.
-inline constexpr double pointsPerMillimetre = 72.0 / 25.4;
+/// Templates measure in millimetres and font sizes in points; a display list keeps tenths of a point, so that a font's
+/// size is a whole number and one list serves screen, printer and PDF.
+inline constexpr double unitsPerInch = 720.0;
+inline constexpr double unitsPerPoint = 10.0;
+inline constexpr double unitsPerMillimetre = unitsPerInch / 25.4;
 
 } // namespace reports

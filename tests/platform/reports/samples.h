@@ -1,0 +1,23 @@
+#pragma once
+
+#include "tests/platform/reports/memory_source.h"
+
+/// A season's data in small, as the templates of the program print it.
+namespace samples {
+
+/// What the program writes into the report texts before it prints an invoice.
+SampleRow invoiceTexts(int ordre);
+/// The same for a delivery note: no sum in words.
+SampleRow deliveryNoteTexts(int ordre);
+SampleRow listTexts();
+
+QList<SampleRow> invoiceRows(int num, int ordre, int lines);
+QList<SampleRow> clients(int count);
+QList<SampleRow> fish();
+QList<SampleRow> owners();
+QList<SampleRow> boats();
+
+/// All of the above, the invoice with `lines` lines.
+MemorySource everything(int lines);
+
+} // namespace samples
