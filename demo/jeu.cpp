@@ -3,8 +3,9 @@
 #include "invoicing/invoicing.h"
 #include "platform/services/clock.h"
 #include "reference/categories.h"
+#include "reference/fiches.h"
 #include "reference/fichiers.h"
-#include "sales/bordereau_entry.h"
+#include "sales/bordereau_register.h"
 
 namespace talor::demo {
 
@@ -85,6 +86,16 @@ std::optional<Refus> saisirLigne(SaisieBordereau& saisie, const Saison& saison, 
     if (!acquise)
         return acquise.refus();
     return std::nullopt;
+}
+
+/// Rank of a boat among those that the register offers.
+int rangEmbarcation(const RegistreBordereaux& registre, const QString& denom)
+{
+    const ListeChoix& embarcations = registre.embarcations();
+    for (int i = 0; i < embarcations.nombre(); ++i)
+        if (embarcations[i].texte.trimmed() == denom)
+            return i;
+    return -1;
 }
 
 } // namespace
@@ -203,17 +214,16 @@ std::optional<Refus> Jeu::ouvrirClients()
 std::optional<Refus> Jeu::saisirBordereau(const Journee& journee, const Bordereau& bordereau)
 {
     const Embarcation& embarcation = m_saison.embarcations[bordereau.embarcation];
-    const qint64 numero = m_exercice.Base().scalar(u"select max(ordre) from Bordereaux"_s).toLongLong() + 1;
-    const QString travail = u"Bordereau N° %1, %2"_s.arg(numero).arg(embarcation.denom);
+    RegistreBordereaux registre(m_exercice, RegistreBordereaux::Porte::Registre);
+    registre.LoadRegister();
+    CadreBordereau cadre = registre.cadreNouveau(journee.date.toString(formatDate));
+    const QString travail = u"Bordereau N° %1, %2"_s.arg(cadre.numero, embarcation.denom);
+    cadre.embarcation = rangEmbarcation(registre, embarcation.denom);
+    const Resultat<DemandeSaisie> demande = registre.demande(cadre);
+    if (!demande)
+        return pendant(travail, demande.refus());
 
-    DemandeSaisie demande;
-    demande.date = journee.date.toString(formatDate);
-    demande.numero = QString::number(numero);
-    demande.Num_Chalutier =
-        m_exercice.Base().scalar(u"select num from Chalutiers where denom = ?"_s, {embarcation.denom}).toLongLong();
-    demande.nomChalutier = embarcation.denom;
-
-    SaisieBordereau saisie(m_exercice, demande);
+    SaisieBordereau saisie(m_exercice, *demande);
     if (const std::optional<Refus> refus = saisie.ouvrir())
         return pendant(travail, *refus);
     int rang = 0;
@@ -227,10 +237,22 @@ std::optional<Refus> Jeu::saisirBordereau(const Journee& journee, const Borderea
     saisie.prendrePrimesEtTaux(bordereau.primes, bordereau.taux.isEmpty() ? saisie.totaux().taux : bordereau.taux);
     saisie.SaveBordereau();
 
-    m_annonce(u"  Bordereau N° %1  %2 %3 lignes  %4 DA"_s.arg(numero, 2)
+    m_annonce(u"  Bordereau N° %1  %2 %3 lignes  %4 DA"_s.arg(cadre.numero, 2)
                   .arg(embarcation.denom, -18)
                   .arg(saisie.nbLignes(), 3)
                   .arg(saisie.totaux().brut.trimmed(), 13));
+    return std::nullopt;
+}
+
+std::optional<Refus> Jeu::facturer(const Journee& journee)
+{
+    const QString date = journee.date.toString(formatDate);
+    const Resultat<BilanFacturation> bilan = InvoiceAll(m_exercice, {date});
+    if (!bilan)
+        return pendant(u"Facturation du "_s + date, bilan.refus());
+    if (!bilan->refus.isEmpty())
+        return pendant(u"Facturation du "_s + date, bilan->refus.first());
+    m_annonce(u"  "_s + bilan->message.texte.trimmed());
     return std::nullopt;
 }
 
