@@ -211,9 +211,9 @@ const std::array<Raccourci, 8>& boutonsFacturation()
     static const std::array<Raccourci, 8> huit = {{
         {u"  Automatique"_s, u"Nouv_Fact"_s, u"facture"_s, false},
         {u"  Manuelle"_s, u"Corr_Fact"_s, u"modifier"_s, false},
-        {u"  De régularisation"_s, u"mnu_regul"_s, u"regularisation"_s, false},
-        {u"  Simulée"_s, u"FSimul"_s, u"simulation"_s, false},
-        {u"  Factures"_s, u"mnu_s_t"_s, u"factures"_s, false},
+        {u"  De régularisation"_s, u"mnu_regul"_s, u"ajuster"_s, false},
+        {u"  Simulée"_s, u"FSimul"_s, u"document"_s, false},
+        {u"  Factures"_s, u"mnu_s_t"_s, u"liste"_s, false},
         {u"  Bordereaux"_s, u"Mnu_CR"_s, u"bordereau"_s, false},
         {u"  Décomptes"_s, u"MNU_BL"_s, u"decompte"_s, false},
         {u"  Créances"_s, u"MM_CREANCES"_s, u"creances"_s, false},

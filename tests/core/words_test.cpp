@@ -23,7 +23,7 @@ QString motsNus(double montant)
 struct Cas
 {
     double montant;
-    const char16_t* mots;
+    const char* mots;
 };
 
 } // namespace
@@ -31,76 +31,76 @@ struct Cas
 TEST(MontantEnLettres, suit_ses_regles_de_zero_aux_centaines_de_millions)
 {
     const Cas cas[] = {
-        {0, u"ZERO DINAR"},
-        {1, u"UN DINAR"},
-        {2, u"DEUX DINARS"},
-        {9, u"NEUF DINARS"},
-        {10, u"DIX DINARS"},
-        {11, u"ONZE DINARS"},
-        {16, u"SEIZE DINARS"},
-        {17, u"DIX-SEPT DINARS"},
-        {19, u"DIX-NEUF DINARS"},
-        {20, u"VINGT  DINARS"},
-        {21, u"VINGT ET UN DINARS"},
-        {22, u"VINGT DEUX DINARS"},
-        {30, u"TRENTE  DINARS"},
-        {41, u"QUARANTE ET UN DINARS"},
-        {55, u"CINQUANTE CINQ DINARS"},
-        {60, u"SOIXANTE  DINARS"},
-        {61, u"SOIXANTE ET UN DINARS"},
-        {69, u"SOIXANTE NEUF DINARS"},
-        {70, u"SOIXANTE DIX DINARS"},
-        {71, u"SOIXANTE ET ONZE DINARS"},
-        {72, u"SOIXANTE DOUZE DINARS"},
-        {79, u"SOIXANTE DIX-NEUF DINARS"},
-        {80, u"QUATRE-VINGTS DINARS"},
-        {81, u"QUATRE-VINGT ET UN DINARS"},
-        {82, u"QUATRE-VINGT DEUX DINARS"},
-        {90, u"QUATRE-VINGT DIX DINARS"},
-        {91, u"QUATRE-VINGT ET ONZE DINARS"},
-        {99, u"QUATRE-VINGT DIX-NEUF DINARS"},
-        {100, u"CENT DINARS"},
-        {101, u"CENT UN DINARS"},
-        {111, u"CENT ONZE DINARS"},
-        {180, u"CENT QUATRE-VINGTS DINARS"},
-        {200, u"DEUX CENTS DINARS"},
-        {201, u"DEUX CENT UN DINARS"},
-        {280, u"DEUX CENT QUATRE-VINGTS DINARS"},
-        {345, u"TROIS CENT QUARANTE CINQ DINARS"},
-        {900, u"NEUF CENTS DINARS"},
-        {999, u"NEUF CENT QUATRE-VINGT DIX-NEUF DINARS"},
-        {1000, u"MILLE DINAR"},
-        {1001, u"MILLE UN DINAR"},
-        {1002, u"MILLE DEUX DINARS"},
-        {1500, u"MILLE CINQ CENTS DINARS"},
-        {1999, u"MILLE NEUF CENT QUATRE-VINGT DIX-NEUF DINARS"},
-        {2000, u"DEUX MILLE DINAR"},
-        {2001, u"DEUX MILLE UN DINAR"},
-        {6200, u"SIX MILLE DEUX CENTS DINARS"},
-        {10000, u"DIX MILLE DINAR"},
-        {21000, u"VINGT ET UN MILLE DINAR"},
-        {80000, u"QUATRE-VINGTS MILLE DINAR"},
-        {100000, u"CENT MILLE DINAR"},
-        {200000, u"DEUX CENTS MILLE DINAR"},
-        {999999, u"NEUF CENT QUATRE-VINGT DIX-NEUF MILLE NEUF CENT QUATRE-VINGT DIX-NEUF DINARS"},
-        {1000000, u"UN MILLION DINAR"},
-        {2000000, u"DEUX MILLIONS DINAR"},
-        {1000001, u"UN MILLION UN DINAR"},
-        {1001000, u"UN MILLION MILLE DINAR"},
-        {80000000, u"QUATRE-VINGTS MILLIONS DINAR"},
-        {999999999.99, u"NEUF CENT QUATRE-VINGT DIX-NEUF MILLIONS NEUF CENT QUATRE-VINGT DIX-NEUF MILLE NEUF CENT "
-                       u"QUATRE-VINGT DIX-NEUF DINARS ET QUATRE-VINGT DIX-NEUF CENTIMES"},
-        {0.5, u"ZERO DINAR ET CINQUANTE  CENTIMES"},
-        {0.01, u"ZERO DINAR ET UN CENTIME"},
-        {0.009, u"ZERO DINAR"},
-        {12.50, u"DOUZE DINARS ET CINQUANTE  CENTIMES"},
-        {1.99, u"UN DINAR ET QUATRE-VINGT DIX-NEUF CENTIMES"},
-        {1234.56, u"MILLE DEUX CENT TRENTE QUATRE DINARS ET CINQUANTE SIX CENTIMES"},
-        {99.80, u"QUATRE-VINGT DIX-NEUF DINARS ET QUATRE-VINGTS CENTIMES"},
-        {-3, u"MOINS TROIS DINARS"},
+        {0, "ZERO DINAR"},
+        {1, "UN DINAR"},
+        {2, "DEUX DINARS"},
+        {9, "NEUF DINARS"},
+        {10, "DIX DINARS"},
+        {11, "ONZE DINARS"},
+        {16, "SEIZE DINARS"},
+        {17, "DIX-SEPT DINARS"},
+        {19, "DIX-NEUF DINARS"},
+        {20, "VINGT  DINARS"},
+        {21, "VINGT ET UN DINARS"},
+        {22, "VINGT DEUX DINARS"},
+        {30, "TRENTE  DINARS"},
+        {41, "QUARANTE ET UN DINARS"},
+        {55, "CINQUANTE CINQ DINARS"},
+        {60, "SOIXANTE  DINARS"},
+        {61, "SOIXANTE ET UN DINARS"},
+        {69, "SOIXANTE NEUF DINARS"},
+        {70, "SOIXANTE DIX DINARS"},
+        {71, "SOIXANTE ET ONZE DINARS"},
+        {72, "SOIXANTE DOUZE DINARS"},
+        {79, "SOIXANTE DIX-NEUF DINARS"},
+        {80, "QUATRE-VINGTS DINARS"},
+        {81, "QUATRE-VINGT ET UN DINARS"},
+        {82, "QUATRE-VINGT DEUX DINARS"},
+        {90, "QUATRE-VINGT DIX DINARS"},
+        {91, "QUATRE-VINGT ET ONZE DINARS"},
+        {99, "QUATRE-VINGT DIX-NEUF DINARS"},
+        {100, "CENT DINARS"},
+        {101, "CENT UN DINARS"},
+        {111, "CENT ONZE DINARS"},
+        {180, "CENT QUATRE-VINGTS DINARS"},
+        {200, "DEUX CENTS DINARS"},
+        {201, "DEUX CENT UN DINARS"},
+        {280, "DEUX CENT QUATRE-VINGTS DINARS"},
+        {345, "TROIS CENT QUARANTE CINQ DINARS"},
+        {900, "NEUF CENTS DINARS"},
+        {999, "NEUF CENT QUATRE-VINGT DIX-NEUF DINARS"},
+        {1000, "MILLE DINAR"},
+        {1001, "MILLE UN DINAR"},
+        {1002, "MILLE DEUX DINARS"},
+        {1500, "MILLE CINQ CENTS DINARS"},
+        {1999, "MILLE NEUF CENT QUATRE-VINGT DIX-NEUF DINARS"},
+        {2000, "DEUX MILLE DINAR"},
+        {2001, "DEUX MILLE UN DINAR"},
+        {6200, "SIX MILLE DEUX CENTS DINARS"},
+        {10000, "DIX MILLE DINAR"},
+        {21000, "VINGT ET UN MILLE DINAR"},
+        {80000, "QUATRE-VINGTS MILLE DINAR"},
+        {100000, "CENT MILLE DINAR"},
+        {200000, "DEUX CENTS MILLE DINAR"},
+        {999999, "NEUF CENT QUATRE-VINGT DIX-NEUF MILLE NEUF CENT QUATRE-VINGT DIX-NEUF DINARS"},
+        {1000000, "UN MILLION DINAR"},
+        {2000000, "DEUX MILLIONS DINAR"},
+        {1000001, "UN MILLION UN DINAR"},
+        {1001000, "UN MILLION MILLE DINAR"},
+        {80000000, "QUATRE-VINGTS MILLIONS DINAR"},
+        {999999999.99, "NEUF CENT QUATRE-VINGT DIX-NEUF MILLIONS NEUF CENT QUATRE-VINGT DIX-NEUF MILLE NEUF CENT "
+                       "QUATRE-VINGT DIX-NEUF DINARS ET QUATRE-VINGT DIX-NEUF CENTIMES"},
+        {0.5, "ZERO DINAR ET CINQUANTE  CENTIMES"},
+        {0.01, "ZERO DINAR ET UN CENTIME"},
+        {0.009, "ZERO DINAR"},
+        {12.50, "DOUZE DINARS ET CINQUANTE  CENTIMES"},
+        {1.99, "UN DINAR ET QUATRE-VINGT DIX-NEUF CENTIMES"},
+        {1234.56, "MILLE DEUX CENT TRENTE QUATRE DINARS ET CINQUANTE SIX CENTIMES"},
+        {99.80, "QUATRE-VINGT DIX-NEUF DINARS ET QUATRE-VINGTS CENTIMES"},
+        {-3, "MOINS TROIS DINARS"},
     };
     for (const Cas& c : cas)
-        EXPECT_EQ(motsNus(c.montant), QString(c.mots)) << c.montant;
+        EXPECT_EQ(motsNus(c.montant), QString::fromUtf8(c.mots)) << c.montant;
 }
 
 TEST(MontantEnLettres, chaque_centime_se_lit_comme_il_est_ecrit)
@@ -108,7 +108,7 @@ TEST(MontantEnLettres, chaque_centime_se_lit_comme_il_est_ecrit)
     for (int centimes = 1; centimes < 100; ++centimes) {
         qint64 n = centimes;
         const QString attendu = EntierEnLettres(n).trimmed();
-        const QString lu = motsNus(QString(u"7."_s + QString::number(centimes).rightJustified(2, u'0')).toDouble());
+        const QString lu = motsNus((u"7."_s + QString::number(centimes).rightJustified(2, u'0')).toDouble());
         EXPECT_TRUE(lu.startsWith(u"SEPT DINARS ET "_s + attendu)) << lu.toStdString();
     }
 }
@@ -117,19 +117,19 @@ TEST(MontantEnLettres, chaque_centime_se_lit_comme_il_est_ecrit)
 TEST(MontantEnLettres, le_pluriel_de_million_regarde_le_dernier_chiffre_ecrit)
 {
     const Cas cas[] = {
-        {1e6, u"UN MILLION DINAR"},
-        {21e6, u"VINGT ET UN MILLIONS DINAR"},
-        {100e6, u"CENT MILLION DINAR"},
-        {101e6, u"CENT UN MILLION DINAR"},
-        {111e6, u"CENT ONZE MILLION DINAR"},
-        {120e6, u"CENT VINGT  MILLIONS DINAR"},
-        {160e6, u"CENT SOIXANTE  MILLION DINAR"},
-        {200e6, u"DEUX CENTS MILLIONS DINAR"},
-        {2e9, u"DEUX MILLIARDS DINAR"},
-        {101e9, u"CENT UN MILLIARD DINAR"},
+        {1e6, "UN MILLION DINAR"},
+        {21e6, "VINGT ET UN MILLIONS DINAR"},
+        {100e6, "CENT MILLION DINAR"},
+        {101e6, "CENT UN MILLION DINAR"},
+        {111e6, "CENT ONZE MILLION DINAR"},
+        {120e6, "CENT VINGT  MILLIONS DINAR"},
+        {160e6, "CENT SOIXANTE  MILLION DINAR"},
+        {200e6, "DEUX CENTS MILLIONS DINAR"},
+        {2e9, "DEUX MILLIARDS DINAR"},
+        {101e9, "CENT UN MILLIARD DINAR"},
     };
     for (const Cas& c : cas)
-        EXPECT_EQ(motsNus(c.montant), QString(c.mots)) << c.montant;
+        EXPECT_EQ(motsNus(c.montant), QString::fromUtf8(c.mots)) << c.montant;
 }
 
 TEST(MontantEnLettres, le_pluriel_de_dinar_regarde_les_trois_derniers_chiffres)

@@ -8,7 +8,17 @@ namespace store {
 
 /// What a field holds. A `Date` is kept as ISO text (yyyy-MM-dd) and handed in and out as dd/MM/yyyy;
 /// a `YesNo` as 0 or 1; the whole numbers and the real numbers share SQLite's two numeric classes.
-enum class FieldType { Counter, Long, Integer, Single, Double, Text, Date, YesNo };
+enum class FieldType
+{
+    Counter,
+    Long,
+    Integer,
+    Single,
+    Double,
+    Text,
+    Date,
+    YesNo
+};
 
 struct Field
 {
@@ -29,7 +39,8 @@ struct Table
 };
 
 /// All tables of a database. Names are found in any case, as the queries write them.
-class Catalogue {
+class Catalogue
+{
 public:
     Catalogue(quint32 applicationId, int version, QList<Table> tables);
 

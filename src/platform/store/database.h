@@ -19,7 +19,8 @@ class Recordset;
 /// Text compares, sorts and matches with case and accents folded, as a French reader expects.
 ///
 /// Every member throws `Error`; nothing here shows anything.
-class Database {
+class Database
+{
 public:
     /// Makes an empty file with every table of the catalogue. An existing file is refused.
     static void create(const QString& path, const Catalogue& catalogue);
@@ -66,7 +67,8 @@ private:
 
 /// What a user's action writes: it stands whole after `commit`, or not at all. Destroyed without a commit it rolls
 /// back. One inside another is a savepoint of the outer one.
-class Transaction {
+class Transaction
+{
 public:
     explicit Transaction(Database& database);
     ~Transaction();

@@ -8,9 +8,21 @@ namespace store {
 
 /// The one exception of the store. `number` is SQLite's extended result code, or one of the values of `Fault`
 /// for what the store itself refuses; `text` is a French sentence that can be shown as it stands.
-class Error : public std::exception {
+class Error : public std::exception
+{
 public:
-    enum Fault { NotADatabase = 10001, ForeignFile, OtherVersion, MissingTable, UnknownField, NoCurrentRow, BadQuery };
+    enum Fault
+    {
+        NotADatabase = 10001,
+        ForeignFile,
+        OtherVersion,
+        MissingTable,
+        UnknownField,
+        NoCurrentRow,
+        BadQuery,
+        BadValue,   ///< a value that its field cannot hold
+        Interrupted ///< a write after the transaction around it was undone, or on a database that is closed
+    };
 
     Error(int number, const QString& text);
 

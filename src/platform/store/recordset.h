@@ -2,21 +2,73 @@
 
 #include "platform/store/database.h"
 
+#include <concepts>
+#include <utility>
+
 namespace store {
+
+/// Hash of a field's name in any case; a literal's is worked out by the compiler.
+struct NameHash
+{
+    static constexpr quint64 start = 14695981039346656037u;
+    static constexpr quint64 add(quint64 hash, char c)
+    {
+        return (hash ^ quint64(uchar(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c))) * 1099511628211u;
+    }
+    static constexpr quint64 of(const char* name)
+    {
+        quint64 hash = start;
+        for (; *name != 0; ++name)
+            hash = add(hash, *name);
+        return hash;
+    }
+};
 
 /// The rows of a table or a query, one of which is current. Rows are streamed forward; nothing is copied to be read.
 ///
 /// A field is named in any case, or by its position counted from 0. Reading with no current row throws
 /// `Error::NoCurrentRow`; a name that is not there, `Error::UnknownField`.
-class Recordset {
+///
+/// Writes made while rows are being read, by this recordset or any other way, disturb nothing: the rows still to come
+/// are those that stood there before the write (a whole table also shows the rows added to it), less those deleted
+/// since. A row that can be written to is read as it stands in the file now; the rows of any other query, as they
+/// stood when the query came to them.
+class Recordset
+{
 public:
     /// A field by name or by position.
     struct FieldRef
     {
-        FieldRef(const char* fieldName) : name(fieldName) {}
-        FieldRef(int fieldPosition) : position(fieldPosition) {}
+        template<std::size_t N>
+        FieldRef(const char (&literal)[N])
+            : FieldRef(literal, std::make_index_sequence<N - 1>())
+        {}
+        template<class T>
+        requires(std::same_as<T, const char*> || std::same_as<T, char*>) FieldRef(const T& fieldName)
+            : name(fieldName)
+            , hash(NameHash::of(fieldName))
+        {}
+        FieldRef(const QByteArray& fieldName)
+            : FieldRef(fieldName.constData())
+        {}
+        FieldRef(int fieldPosition)
+            : position(fieldPosition)
+        {}
+
         const char* name = nullptr;
+        quint64 hash = 0;
         int position = -1;
+
+    private:
+        template<std::size_t N, std::size_t... I>
+        FieldRef(const char (&literal)[N], std::index_sequence<I...>)
+            : name(literal)
+            , hash(NameHash::start)
+        {
+            // A text in a larger array ends at its zero.
+            bool inside = true;
+            ((inside = inside && literal[I] != 0, hash = inside ? NameHash::add(hash, literal[I]) : hash), ...);
+        }
     };
 
     Recordset(); ///< closed: only `isOpen` may be asked
@@ -24,10 +76,10 @@ public:
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
 
-    bool isOpen() const;
+    bool isOpen() const; ///< false too once its database is closed
     void close();
 
-    // Moving. Each returns whether there is a current row afterwards.
+    // Moving. Each returns whether there is a current row afterwards, and gives up what was set and not yet written.
     bool moveFirst();
     bool moveNext();
     /// The last row in the recordset's order; after an addition, the row added last, wherever its order would put it.
@@ -45,21 +97,23 @@ public:
     /// Runs the query again and stands on its first row.
     bool requery();
 
-    // Reading the current row. A null reads as an empty text, 0 or false.
+    // Reading the current row. A null reads as an empty text, 0 or false. Between `addNew` or `edit` and `update`
+    // the row being written is read, with what has been set so far.
     bool isNull(FieldRef field) const;
-    QString text(FieldRef field) const; ///< dates as dd/MM/yyyy, numbers with "."
-    qint64 integer(FieldRef field) const;
-    double real(FieldRef field) const;
+    QString text(FieldRef field) const;   ///< dates as dd/MM/yyyy, numbers with "."
+    qint64 integer(FieldRef field) const; ///< rounded half to even; of a text, the number that it begins with
+    double real(FieldRef field) const;    ///< of a text, the number that it begins with
     bool flag(FieldRef field) const;
     QVariant value(FieldRef field) const; ///< invalid when null; dates as dd/MM/yyyy
-    qint64 num() const;                   ///< the key of the current row (the hidden row number where a table has no `num`)
+    qint64 num() const; ///< the key of the current row (the hidden row number where a table has no `num`)
     int fieldCount() const;
     QString fieldName(int position) const;
 
     // Writing. `addNew` or `edit`, then `set`, then `update`.
     void addNew();
     void edit();
-    /// Takes dates as dd/MM/yyyy, flags as bool; an invalid QVariant stores null.
+    /// Takes dates as dd/MM/yyyy, flags as bool; an invalid QVariant stores null. Whole numbers are rounded half to
+    /// even, an empty text leaves a date null. `Error::BadValue` where the field cannot hold the value.
     void set(FieldRef field, const QVariant& value);
     /// Writes the row and returns its `num`. After `edit` the row stays current with its new values; after `addNew`
     /// the current row is the one from before.
@@ -72,6 +126,7 @@ private:
     friend class Database;
     struct Impl;
     explicit Recordset(std::unique_ptr<Impl> impl);
+    Impl& open() const;
     std::unique_ptr<Impl> m_impl;
 };
 

@@ -1,0 +1,45 @@
+#include "core/report_window.h"
+
+#include "core/montrer.h"
+#include "platform/controls/busy.h"
+#include "platform/reports/preview.h"
+#include "platform/services/printers.h"
+
+namespace talor {
+
+using namespace Qt::StringLiterals;
+
+int TestImprimante(QWidget* parent)
+{
+    if (services::printers::canPrint())
+        return 0;
+    montrer(parent, {u"Aucune imprimante installée"_s});
+    return -1;
+}
+
+bool ImprimerDocument(QWidget* parent, const reports::Document& document, Destination destination)
+{
+    reports::Apercu Apercu(document, document.title(), parent);
+    if (destination == Destination::Imprimante)
+        Apercu.imprimer();
+    else
+        Apercu.exec();
+    return true;
+}
+
+bool ImprimerEtat(QWidget* parent, Exercice& exercice, const Etat& etat, Destination destination)
+{
+    if (TestImprimante(parent) != 0)
+        return false;
+    const Resultat<reports::Document> document = [&] {
+        const controls::Busy sablier;
+        return ComposerEtat(exercice, etat);
+    }();
+    if (!document) {
+        montrer(parent, document.refus());
+        return false;
+    }
+    return ImprimerDocument(parent, *document, destination);
+}
+
+} // namespace talor
