@@ -1,7 +1,7 @@
 #include "demo/edition.h"
 
+#include "core/report.h"
 #include "invoicing/invoice_register.h"
-#include "platform/reports/layout.h"
 #include "platform/reports/paint.h"
 
 namespace talor::demo {
@@ -13,12 +13,7 @@ Edition::Edition(Exercice& exercice, const QDir& dossier)
     , m_dossier(dossier)
 {}
 
-QString Edition::modele(const QString& nom) const
-{
-    return m_exercice.installation().chemin(nom);
-}
-
-Imprime Edition::factures()
+Resultat<Imprime> Edition::factures()
 {
     RegistreFactures registre(m_exercice, RegistreFactures::Porte::Registre, {});
     FiltreFactures filtre;
@@ -26,49 +21,67 @@ Imprime Edition::factures()
     filtre.premiere = registre.premiereDate();
     filtre.seconde = registre.derniereDate();
     filtre.parClient = false;
-    registre.ApplyFilter(filtre);
+    if (const std::optional<Refus> refus = registre.ApplyFilter(filtre))
+        return *refus;
 
-    const QString chemin = modele(RegistreFactures::modeleFacture);
-    const reports::Template facture = reports::Template::load(chemin);
-    reports::Document document;
-    m_exercice.EcrireEntete();
+    reports::Document ensemble;
     for (int rang = 0; rang < registre.nbLignes(); ++rang) {
-        registre.ecrireTextesFacture(rang, GenreImpression::Facture);
-        document.append(reports::layOut(facture, m_exercice.Base(), {chemin, registre.formule(rang), {}}));
+        const Etat etat = {.modele = registre.modele(rang),
+                           .formule = registre.formule(rang),
+                           .tri = {},
+                           .remplir = [&](Exercice&) { registre.ecrireTextesFacture(rang, GenreImpression::Facture); },
+                           .titre = {}};
+        const Resultat<reports::Document> facture = ComposerEtat(m_exercice, etat);
+        if (!facture)
+            return facture.refus();
+        ensemble.append(*facture);
     }
-    document.setTitle(u"Factures"_s);
-    const QString fichier = u"Factures.pdf"_s;
-    reports::writePdf(document, m_dossier.filePath(fichier));
-    return {fichier, u"%1 factures"_s.arg(registre.nbLignes()), document.pageCount()};
+    ensemble.setTitle(u"Factures"_s);
+    return ecrire(ensemble, u"Factures.pdf"_s, u"%1 factures"_s.arg(registre.nbLignes()));
 }
 
-QList<Imprime> Edition::listes()
+Resultat<QList<Imprime>> Edition::listes()
 {
+    struct Liste
+    {
+        QString modele, fichier, contenu, classement;
+        QStringList tri;
+    };
     const QString parNumero = u"Classement sur N° d'ordre"_s;
     const QString alphabetique = u"Classement alphabétique"_s;
-    return {
-        liste(u"L_CLIENT.RPT"_s, u"L_CLIENT_numero.pdf"_s, u"clients par numéro"_s, parNumero,
-              {u"+ {Clients.ordre} "_s}),
-        liste(u"L_CLIENT.RPT"_s, u"L_CLIENT_alphabetique.pdf"_s, u"clients par nom"_s, alphabetique,
-              {u"+ {Clients.nom} "_s, u"+ {Clients.prenom} "_s}),
-        liste(u"L_POISSN.RPT"_s, u"L_POISSN_numero.pdf"_s, u"poissons par numéro"_s, parNumero,
-              {u"+ {Poissons.ordre} "_s}),
-        liste(u"L_POISSN.RPT"_s, u"L_POISSN_alphabetique.pdf"_s, u"poissons par nom"_s, alphabetique,
-              {u"+ {Poissons.denom} "_s}),
-        liste(u"L_ARMATR.RPT"_s, u"L_ARMATR.pdf"_s, u"armateurs"_s, {}, {}),
-        liste(u"L_CHALUT.RPT"_s, u"L_CHALUT.pdf"_s, u"embarcations"_s, {}, {}),
+    const Liste listes[] = {
+        {u"L_CLIENT.RPT"_s, u"L_CLIENT_numero.pdf"_s, u"clients par numéro"_s, parNumero, {u"+ {Clients.ordre} "_s}},
+        {u"L_CLIENT.RPT"_s,
+         u"L_CLIENT_alphabetique.pdf"_s,
+         u"clients par nom"_s,
+         alphabetique,
+         {u"+ {Clients.nom} "_s, u"+ {Clients.prenom} "_s}},
+        {u"L_POISSN.RPT"_s, u"L_POISSN_numero.pdf"_s, u"poissons par numéro"_s, parNumero, {u"+ {Poissons.ordre} "_s}},
+        {u"L_POISSN.RPT"_s,
+         u"L_POISSN_alphabetique.pdf"_s,
+         u"poissons par nom"_s,
+         alphabetique,
+         {u"+ {Poissons.denom} "_s}},
+        {u"L_ARMATR.RPT"_s, u"L_ARMATR.pdf"_s, u"armateurs"_s, {}, {}},
+        {u"L_CHALUT.RPT"_s, u"L_CHALUT.pdf"_s, u"embarcations"_s, {}, {}},
     };
+    QList<Imprime> imprimes;
+    for (const Liste& liste : listes) {
+        Etat etat = {.modele = liste.modele, .formule = {}, .tri = liste.tri, .remplir = {}, .titre = {}};
+        if (!liste.classement.isEmpty())
+            etat.remplir = [&](Exercice& exercice) { EcrireTextes(exercice, {{"ch4", liste.classement}}); };
+        const Resultat<reports::Document> document = ComposerEtat(m_exercice, etat);
+        if (!document)
+            return document.refus();
+        imprimes << ecrire(*document, liste.fichier, u"liste des "_s + liste.contenu);
+    }
+    return imprimes;
 }
 
-Imprime Edition::liste(const QString& nomModele, const QString& fichier, const QString& contenu, const QString& ch4,
-                       const QStringList& ordre)
+Imprime Edition::ecrire(const reports::Document& document, const QString& fichier, const QString& contenu) const
 {
-    m_exercice.EcrireEntete();
-    if (!ch4.isEmpty())
-        ecrireTextes(m_exercice, {{"ch4", ch4}});
-    const reports::Document document = reports::layOut(m_exercice.Base(), {modele(nomModele), {}, ordre});
     reports::writePdf(document, m_dossier.filePath(fichier));
-    return {fichier, u"liste des "_s + contenu, document.pageCount()};
+    return {fichier, contenu, document.pageCount()};
 }
 
 } // namespace talor::demo

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "core/refus.h"
 #include "core/state.h"
+#include "platform/reports/document.h"
 
 #include <QDir>
 
@@ -14,23 +16,20 @@ struct Imprime
     int pages;
 };
 
-/// Prints what the season left behind as the program does: the report texts filled, the template laid out with its
-/// formula and its order. Throws `store::Error` and `reports::Error`.
+/// Prints what the season left behind, by the program's own print sequence. Templates are those of the exercise's
+/// folder. Throws `store::Error`, and `reports::Error` for a file that can't be written.
 class Edition
 {
 public:
-    /// Templates are looked for in the folder of the exercise; the documents go to `dossier`.
     Edition(Exercice& exercice, const QDir& dossier);
 
     /// Every invoice, by number, in one file.
-    Imprime factures();
+    Resultat<Imprime> factures();
     /// The four lists, clients and fish in both orders.
-    QList<Imprime> listes();
+    Resultat<QList<Imprime>> listes();
 
 private:
-    QString modele(const QString& nom) const;
-    Imprime liste(const QString& nomModele, const QString& fichier, const QString& contenu, const QString& ch4,
-                  const QStringList& ordre);
+    Imprime ecrire(const reports::Document& document, const QString& fichier, const QString& contenu) const;
 
     Exercice& m_exercice;
     QDir m_dossier;
