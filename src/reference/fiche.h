@@ -23,7 +23,7 @@ enum class Saisie
 };
 
 /// An entry of a field that is chosen from a list.
-struct Choix
+struct EntreeListe
 {
     qint64 num;
     QString texte;
@@ -38,7 +38,7 @@ struct Champ
     Saisie saisie = Saisie::Libre;
     int longueur = 0; ///< characters that can be typed
     bool obligatoire = false;
-    std::function<QList<Choix>(Exercice&)> choix = {}; ///< of a `Saisie::Choix` that is shown as a drop-down list
+    std::function<QList<EntreeListe>(Exercice&)> choix = {}; ///< of a `Saisie::Choix` that is shown as a drop-down list
 };
 
 /// A column of the grid. The cell is built from the row of the table and its rank, counted from 1.
