@@ -6,7 +6,8 @@ using store::Recordset;
 
 namespace {
 
-class RecordsetTest : public StoreTest {
+class RecordsetTest : public StoreTest
+{
 protected:
     RecordsetTest()
     {
