@@ -220,6 +220,11 @@ bool Database::exists(const QString& query, const QVariantList& values)
     return !openRecordset(query, values).eof();
 }
 
+int Database::preparedStatements() const
+{
+    return m_impl->connection.preparedSoFar();
+}
+
 QStringList Database::plan(const QString& query, const QVariantList& values)
 {
     const Lexed lexed = lex(query);

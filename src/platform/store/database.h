@@ -55,6 +55,9 @@ public:
     /// How the engine would run a query, a line a step: for tests of the indexes.
     QStringList plan(const QString& query, const QVariantList& values = {});
 
+    /// How many statements have been prepared so far: a query used again, with other constants or values, adds none.
+    int preparedStatements() const;
+
     /// Writes a whole, checked copy of the live database: beside the target first, then renamed over it.
     void copyTo(const QString& target);
 

@@ -49,7 +49,8 @@ inline const store::Catalogue& smallCatalogue()
 }
 
 /// Each test starts on an empty file of its own.
-class StoreTest : public testing::Test {
+class StoreTest : public testing::Test
+{
 protected:
     StoreTest()
     {
@@ -104,7 +105,7 @@ protected:
 };
 
 /// The number of the error that the action throws; 0 when it throws none.
-template <class Action> int faultOf(Action action, QString* text = nullptr)
+template<class Action> int faultOf(Action action, QString* text = nullptr)
 {
     try {
         action();

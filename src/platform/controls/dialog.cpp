@@ -1,0 +1,111 @@
+#include "platform/controls/dialog.h"
+
+#include "platform/controls/look.h"
+#include "platform/controls/named.h"
+
+#include <QAbstractButton>
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScreen>
+
+namespace controls {
+
+Dialog::Dialog(QStringView name, const QString& title, QWidget* parent)
+    : QDialog(parent)
+    , m_titleBand(new QWidget)
+    , m_title(named(new QLabel, u"Titre"))
+    , m_band(new QHBoxLayout)
+    , m_body(new QVBoxLayout)
+    , m_commands(new QHBoxLayout)
+{
+    named(this, name);
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    setRole(m_titleBand, Role::Title);
+    m_titleBand->setAttribute(Qt::WA_StyledBackground);
+    setRole(m_title, Role::Title);
+    setTitle(title);
+
+    auto* head = new QHBoxLayout(m_titleBand);
+    head->setContentsMargins(16, 8, 16, 8);
+    head->setSpacing(16);
+    head->addWidget(m_title);
+    head->addStretch();
+    head->addLayout(m_band);
+
+    m_body->setSpacing(12);
+    m_commands->setSpacing(6);
+
+    auto* content = new QVBoxLayout;
+    content->setContentsMargins(16, 12, 16, 12);
+    content->setSpacing(12);
+    content->addLayout(m_body, 1);
+    content->addLayout(m_commands);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(0);
+    column->addWidget(m_titleBand);
+    column->addLayout(content, 1);
+}
+
+void Dialog::setTitle(const QString& title)
+{
+    setWindowTitle(title.trimmed());
+    m_title->setText(title.trimmed());
+}
+
+void Dialog::setCancel(const QList<QAbstractButton*>& buttons)
+{
+    m_cancel = QList<QPointer<QAbstractButton>>(buttons.cbegin(), buttons.cend());
+}
+
+void Dialog::done(int result)
+{
+    QDialog::done(result);
+    // Not every window system gives the caller its turn back by itself.
+    if (parentWidget())
+        parentWidget()->activateWindow();
+}
+
+void Dialog::reject()
+{
+    if (m_cancel.isEmpty()) {
+        QDialog::reject();
+        return;
+    }
+    for (const auto& button : std::as_const(m_cancel)) {
+        if (button && button->isVisible() && button->isEnabled()) {
+            button->click();
+            return;
+        }
+    }
+}
+
+void Dialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (!std::exchange(m_placed, true))
+        centre(this);
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event)
+{
+    // Enter walks through fields; it must never press a button that nobody looks at.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
+    else
+        QDialog::keyPressEvent(event);
+}
+
+void centre(QWidget* window)
+{
+    const QRect screen = window->screen()->availableGeometry();
+    const QSize frame = window->frameGeometry().size() - window->size();
+    window->resize(window->size().boundedTo(screen.size() - frame));
+    const QSize whole = window->size() + frame;
+    window->move(screen.x() + (screen.width() - whole.width()) / 2,
+                 screen.y() + (screen.height() - whole.height()) / 2);
+}
+
+} // namespace controls
