@@ -151,13 +151,13 @@ TEST_F(ListeFactures, un_filtre_refuse_laisse_la_liste_comme_elle_est)
         FiltreFactures filtre;
         Refus refus;
     } const cas[] = {
-        {{.genre = Genre::Jour, .jour = u"15/06"_s}, date},
-        {{.genre = Genre::Periode, .premiere = jour}, date},
-        {{.genre = Genre::Periode, .premiere = jour, .seconde = u"15/13/2026"_s}, date},
-        {{.genre = Genre::Periode, .premiere = jour, .seconde = u"14/06/2026"_s}, inversees},
-        {{.genre = Genre::Jour, .jour = u"16/06/2026"_s}, aucune},
-        {{.genre = Genre::Jour, .jour = jour, .client = zoulim}, aucune},
-        {{.genre = Genre::Jour, .jour = jour, .etat = Etat::Reglees}, aucune},
+        {{Genre::Jour, u"15/06"_s, {}, {}, numEnsemble, Etat::Toutes, true}, date},
+        {{Genre::Periode, {}, jour, {}, numEnsemble, Etat::Toutes, true}, date},
+        {{Genre::Periode, {}, jour, u"15/13/2026"_s, numEnsemble, Etat::Toutes, true}, date},
+        {{Genre::Periode, {}, jour, u"14/06/2026"_s, numEnsemble, Etat::Toutes, true}, inversees},
+        {{Genre::Jour, u"16/06/2026"_s, {}, {}, numEnsemble, Etat::Toutes, true}, aucune},
+        {{Genre::Jour, jour, {}, {}, zoulim, Etat::Toutes, true}, aucune},
+        {{Genre::Jour, jour, {}, {}, numEnsemble, Etat::Reglees, true}, aucune},
     };
     for (const auto& c : cas) {
         const auto refus = registre.ApplyFilter(c.filtre);
