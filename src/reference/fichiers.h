@@ -15,7 +15,4 @@ QString nomArmateur(Exercice& exercice, qint64 num);
 /// The shipowners in the order of their list.
 QList<EntreeListe> choixArmateurs(Exercice& exercice);
 
-/// The picture of a product: Photos/<num>.BMP, whether it is there or not.
-QString photoProduit(const Exercice& exercice, qint64 num);
-
 } // namespace talor

@@ -5,13 +5,14 @@
 #include "platform/controls/named.h"
 #include "shell/barre_menus.h"
 #include "shell/entete.h"
+#include "shell/image_laterale.h"
 #include "shell/menu.h"
 #include "shell/panneaux.h"
 #include "shell/startup.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QLabel>
+#include <QPushButton>
 #include <QStackedWidget>
 
 namespace talor {
@@ -23,18 +24,6 @@ namespace {
 
 const QStringList entreesResolution = {u"R0"_s, u"R1"_s, u"R2"_s};
 
-/// A side picture takes at most this part of the window's width.
-constexpr double partImage = 0.2;
-constexpr int hauteurImageMax = 480;
-
-QLabel* cadreImage(int rang)
-{
-    auto* cadre = named(new QLabel, u"Image2", rang);
-    cadre->setAlignment(Qt::AlignCenter);
-    cadre->hide();
-    return cadre;
-}
-
 } // namespace
 
 Form1::Form1(Exercice& exercice)
@@ -42,8 +31,8 @@ Form1::Form1(Exercice& exercice)
     , m_resolution(lireResolution(exercice.installation()))
     , m_menus(new BarreMenus(this))
     , m_entete(new Entete)
-    , m_gauche(cadreImage(0))
-    , m_droite(cadreImage(1))
+    , m_gauche(named(new ImageLaterale, u"Image2", 0))
+    , m_droite(named(new ImageLaterale, u"Image2", 1))
     , m_pages(new QStackedWidget)
     , m_raccourcis(new PanneauRaccourcis)
     , m_facturation(new PanneauFacturation)
@@ -130,22 +119,9 @@ void Form1::actualiserMenus()
 
 void Form1::actualiserImages()
 {
-    const QSize place(static_cast<int>(width() * partImage), hauteurImageMax);
-    const auto montrerImage = [&](QLabel* cadre, const QString& cote) {
-        const auto fichier = imageLaterale(m_exercice.installation(), cote);
-        const QPixmap image = fichier ? QPixmap(*fichier) : QPixmap();
-        cadre->setVisible(!image.isNull());
-        if (image.isNull())
-            return false;
-        const qreal echelle = devicePixelRatioF();
-        QPixmap reduite = image.scaled(place * echelle, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        reduite.setDevicePixelRatio(echelle);
-        cadre->setPixmap(reduite);
-        return true;
-    };
-    const bool gauche = montrerImage(m_gauche, u"Gauche"_s);
-    const bool droite = montrerImage(m_droite, u"Droit"_s);
-    m_entete->setPortMontre(!gauche && !droite);
+    m_gauche->charger(imageLaterale(m_exercice.installation(), u"Gauche"_s));
+    m_droite->charger(imageLaterale(m_exercice.installation(), u"Droit"_s));
+    m_entete->setPortMontre(m_gauche->estVide() && m_droite->estVide());
 }
 
 void Form1::ouvrirFacturation()
@@ -160,6 +136,12 @@ void Form1::fermerFacturation()
     m_pages->setCurrentWidget(m_raccourcis);
     m_menus->setEnabled(true);
     m_raccourcis->setFocus();
+}
+
+void Form1::terminer()
+{
+    m_exercice.FermerBase();
+    QCoreApplication::exit(1);
 }
 
 void Form1::closeEvent(QCloseEvent* event)
@@ -179,12 +161,6 @@ void Form1::changeEvent(QEvent* event)
     // A program left open overnight greets the morning with the right day.
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         m_entete->montrer(m_exercice);
-}
-
-void Form1::resizeEvent(QResizeEvent* event)
-{
-    QMainWindow::resizeEvent(event);
-    actualiserImages();
 }
 
 } // namespace talor

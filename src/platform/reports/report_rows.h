@@ -42,7 +42,7 @@ private:
     const Section* m_section = nullptr;
     std::unique_ptr<RowSource> m_rows;
     std::vector<std::size_t> m_places; ///< where in a row each value of the source goes
-    Row m_constants;                  ///< of the tables of one row; the rest invalid
+    Row m_constants;                   ///< of the tables of one row; the rest invalid
     Row m_row, m_next;
     bool m_hasNext = false;
 };

@@ -7,9 +7,10 @@
 /// A row by "Table.field".
 using SampleRow = QMap<QString, QVariant>;
 
-/// Rows set up by a test, told by the table that a query is based on. Selecting and sorting is the store's work: here every
-/// row comes as it was put, and what was asked is kept.
-class MemorySource : public reports::DataSource {
+/// Rows set up by a test, told by the table that a query is based on. Selecting and sorting is the store's work: here
+/// every row comes as it was put, and what was asked is kept.
+class MemorySource : public reports::DataSource
+{
 public:
     QMap<QString, QList<SampleRow>> tables;
 
@@ -32,9 +33,13 @@ public:
     }
 
 private:
-    class Rows : public reports::RowSource {
+    class Rows : public reports::RowSource
+    {
     public:
-        Rows(QList<SampleRow> rows, QStringList fields) : m_rows(std::move(rows)), m_fields(std::move(fields)) {}
+        Rows(QList<SampleRow> rows, QStringList fields)
+            : m_rows(std::move(rows))
+            , m_fields(std::move(fields))
+        {}
         bool next() override { return ++m_current < m_rows.size(); }
         QVariant value(int field) const override { return m_rows[m_current].value(m_fields[field]); }
 

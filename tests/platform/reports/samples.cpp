@@ -6,12 +6,13 @@ namespace samples {
 
 namespace {
 
-const QStringList fishNames = {u"Sardine"_s,       u"Crevette rouge"_s, u"Merlan"_s,  u"Rouget de roche"_s, u"Pageot"_s,
-                               u"Poulpe"_s,        u"Espadon"_s,        u"Sépia"_s,   u"Bogue"_s,           u"Mérou"_s,
-                               u"Crevette grise"_s, u"Langoustine"_s,   u"Anchois"_s, u"Dorade coryphène"_s};
+const QStringList fishNames = {u"Sardine"_s, u"Crevette rouge"_s,  u"Merlan"_s,         u"Rouget de roche"_s,
+                               u"Pageot"_s,  u"Poulpe"_s,          u"Espadon"_s,        u"Sépia"_s,
+                               u"Bogue"_s,   u"Mérou"_s,           u"Crevette grise"_s, u"Langoustine"_s,
+                               u"Anchois"_s, u"Dorade coryphène"_s};
 
-const QStringList surnames = {u"BENALI"_s, u"HADJ-SADOK"_s, u"MEZIANE"_s, u"O'BRIEN"_s, u"BOUZIDI"_s, u"KACI"_s,
-                              u"ÉLOUARD"_s};
+const QStringList surnames = {u"BENALI"_s,  u"HADJ-SADOK"_s, u"MEZIANE"_s, u"O'BRIEN"_s,
+                              u"BOUZIDI"_s, u"KACI"_s,       u"ÉLOUARD"_s};
 const QStringList firstNames = {u"Mohamed"_s, u"Rachid"_s, u"Aïcha"_s, u"Hervé"_s, u"Noël"_s, u"Farid"_s};
 const QStringList towns = {u"Béni Saf"_s, u"Oran"_s, u"Ghazaouet"_s, u"Aïn Témouchent"_s, u"Sidi Bel Abbès"_s};
 

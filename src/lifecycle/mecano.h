@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/controls/dialog.h"
+
+class QListWidget;
+
+namespace talor {
+
+class Exercice;
+
+/// "Module de réparation": repairs and compacts one of the yearly files.
+class Mecano : public controls::Dialog
+{
+    Q_OBJECT
+
+public:
+    enum class Fin
+    {
+        Ferme,  ///< the exercise is open again if it was
+        Echoue, ///< a repair failed and was told; the exercise is closed and the process must end
+    };
+
+    static Fin ouvrir(Exercice& exercice, QWidget* parent = nullptr);
+
+private:
+    Mecano(Exercice& exercice, QWidget* parent);
+    void reparer();
+
+    Exercice& m_exercice;
+    QListWidget* m_fichiers;
+    Fin m_fin = Fin::Ferme;
+};
+
+} // namespace talor
