@@ -1,7 +1,7 @@
 #pragma once
 
 #include "sales/lookups.h"
-#include "sales/report_texts.h"
+#include "core/report_texts.h"
 
 namespace talor {
 
