@@ -76,10 +76,19 @@ void CommandButton::setPrimary()
     setIcon(controls::icon(m_icon, colour::paper));
 }
 
+void CommandButton::setCompact()
+{
+    m_compact = true;
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setIconSize(smallIcon);
+    updateGeometry();
+}
+
 QSize CommandButton::sizeHint() const
 {
-    constexpr int narrowest = 84;
-    return QToolButton::sizeHint().expandedTo({narrowest, 0});
+    constexpr QSize tall{84, 62};
+    constexpr QSize flat{96, 36};
+    return QToolButton::sizeHint().expandedTo(m_compact ? flat : tall);
 }
 
 QToolButton* iconButton(QStringView name, const QString& spoken, const QKeySequence& shortcut)

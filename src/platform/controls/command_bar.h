@@ -30,6 +30,8 @@ public:
 
     /// The action that counts, in the warm accent.
     void setPrimary();
+    /// The caption beside a smaller picture, for the buttons inside a panel.
+    void setCompact();
 
     QSize sizeHint() const override;
 
@@ -39,6 +41,7 @@ private:
     QString m_icon;
     QString m_caption;
     qsizetype m_mnemonic = -1;
+    bool m_compact = false;
 };
 
 /// A small button with a picture alone, beside a field: the calendar of a date, the search of a client. The name is

@@ -7,6 +7,7 @@
 class QAbstractButton;
 class QBoxLayout;
 class QHBoxLayout;
+class QLabel;
 class QVBoxLayout;
 
 namespace controls {
@@ -45,7 +46,7 @@ protected:
 
 private:
     QWidget* m_titleBand;
-    class QLabel* m_title;
+    QLabel* m_title;
     QHBoxLayout* m_band;
     QVBoxLayout* m_body;
     QBoxLayout* m_commands;

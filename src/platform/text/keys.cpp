@@ -6,6 +6,7 @@ namespace {
 
 constexpr int backspace = 8;
 constexpr int blank = 32;
+constexpr int padLength = 12;
 
 bool isDigit(int key)
 {
@@ -54,6 +55,14 @@ int capital(int key)
 int firstCapital(const QString& current, int key)
 {
     return current.isEmpty() ? capital(key) : key;
+}
+
+QString padDisplay(const QString& display, QChar key)
+{
+    const bool point = key == u'.';
+    const bool fits = display.trimmed().size() < padLength;
+    const bool accepted = point ? !display.contains(u'.') : isDigit(key.unicode());
+    return fits && accepted ? display + key : display;
 }
 
 } // namespace text

@@ -24,4 +24,8 @@ int capital(int key);
 /// The same for the first letter of a text only.
 int firstCapital(const QString& current, int key);
 
+/// The display of a number pad after a digit or the point: at most 12 characters and one point, any other key and what
+/// does not fit being refused.
+QString padDisplay(const QString& display, QChar key);
+
 } // namespace text

@@ -1,0 +1,55 @@
+#include "platform/controls/busy.h"
+
+#include "platform/controls/named.h"
+
+#include <QApplication>
+#include <QProgressDialog>
+
+namespace controls {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int patienceMilliseconds = 2000;
+}
+
+Busy::Busy()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+Busy::~Busy()
+{
+    QApplication::restoreOverrideCursor();
+}
+
+Progress::Progress(QWidget* parent, const QString& text, int steps, Cancel cancel)
+    : m_bar(named(new QProgressDialog(text, u"Annuler"_s, 0, steps, parent), u"Progression"))
+{
+    m_bar->setWindowTitle(u"TALOR"_s);
+    m_bar->setWindowModality(Qt::WindowModal);
+    m_bar->setMinimumDuration(patienceMilliseconds);
+    m_bar->setMinimumWidth(420);
+    m_bar->setAutoReset(false);
+    m_bar->setAutoClose(false);
+    if (cancel == Cancel::Refused)
+        m_bar->setCancelButton(nullptr);
+}
+
+Progress::~Progress()
+{
+    delete m_bar;
+}
+
+bool Progress::advance(int done)
+{
+    m_bar->setValue(done);
+    return !cancelled();
+}
+
+bool Progress::cancelled() const
+{
+    return m_bar->wasCanceled();
+}
+
+} // namespace controls

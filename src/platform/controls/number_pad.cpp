@@ -1,0 +1,92 @@
+#include "platform/controls/number_pad.h"
+
+#include "platform/controls/icons.h"
+#include "platform/controls/look.h"
+#include "platform/controls/named.h"
+#include "platform/text/keys.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace controls {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// 14 mm at 96 dots to the inch.
+constexpr QSize keySize{62, 54};
+constexpr int point = 10;
+
+QPushButton* keyOf(const QString& caption)
+{
+    auto* key = new QPushButton(caption);
+    key->setMinimumSize(keySize);
+    key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    key->setFocusPolicy(Qt::NoFocus);
+    key->setAutoDefault(false);
+    key->setProperty("padKey", true);
+    return key;
+}
+
+} // namespace
+
+NumberPad::NumberPad(const Names& names, QWidget* parent)
+    : QWidget(parent)
+    , m_display(named(new QLabel, names.display))
+{
+    setRole(m_display, Role::Display);
+    m_display->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins({});
+    grid->setSpacing(6);
+    grid->addWidget(m_display, 0, 0, 1, 3);
+    const auto addKey = [&](int index, QChar character, int row, int column) {
+        auto* key = named(keyOf(character), names.keys, index);
+        connect(key, &QPushButton::clicked, this, [this, character] { press(character); });
+        grid->addWidget(key, row, column);
+    };
+    for (int digit = 1; digit <= 9; ++digit)
+        addKey(digit, QChar(u'0' + digit), 3 - (digit - 1) / 3, (digit - 1) % 3);
+    addKey(0, u'0', 4, 0);
+    addKey(point, u'.', 4, 1);
+
+    auto* backspace = named(keyOf({}), names.backspace);
+    backspace->setIcon(icon(u"retour-arriere"));
+    backspace->setIconSize({26, 26});
+    backspace->setAccessibleName(u"Effacer"_s);
+    connect(backspace, &QPushButton::clicked, this, &NumberPad::eraseLast);
+    grid->addWidget(backspace, 4, 2);
+}
+
+QString NumberPad::text() const
+{
+    return m_display->text();
+}
+
+void NumberPad::clear()
+{
+    m_display->clear();
+}
+
+void NumberPad::press(QChar key)
+{
+    display(text::padDisplay(m_display->text(), key));
+}
+
+void NumberPad::eraseLast()
+{
+    display(m_display->text().chopped(qMin<qsizetype>(1, m_display->text().size())));
+}
+
+void NumberPad::display(const QString& text)
+{
+    if (text == m_display->text())
+        return;
+    m_display->setText(text);
+    emit displayChanged(text);
+}
+
+} // namespace controls

@@ -1,0 +1,38 @@
+#include "platform/services/printers.h"
+
+#include <QPrinterInfo>
+
+namespace services::printers {
+
+namespace {
+bool nothingPrints = false;
+}
+
+QStringList names()
+{
+    if (nothingPrints)
+        return {};
+    QStringList found = QPrinterInfo::availablePrinterNames();
+    const QString preferred = QPrinterInfo::defaultPrinterName();
+    if (found.removeOne(preferred))
+        found.prepend(preferred);
+    found.append(QStringLiteral("Fichier PDF"));
+    return found;
+}
+
+QString current()
+{
+    return names().value(0);
+}
+
+bool available()
+{
+    return !names().isEmpty();
+}
+
+void setNothingPrints(bool nothing)
+{
+    nothingPrints = nothing;
+}
+
+} // namespace services::printers
