@@ -45,7 +45,7 @@ void Statement::release()
 
 void Statement::bind(const Value& value)
 {
-    store::bind(m_statement, ++m_bound, value);
+    bindValue(m_statement, ++m_bound, value);
 }
 
 void Statement::bind(const Values& values)

@@ -227,7 +227,7 @@ bool Recordset::Impl::findTested(const QString& criterion, const QVariantList& g
         test.reset();
         for (std::size_t i = 0; i < constants.size(); ++i) {
             const int tested = condition.parameters[i].column;
-            bind(test.get(), int(i) + 1, tested < 0 ? constants[i] : Cell(scan.get(), tested).copy());
+            bindValue(test.get(), int(i) + 1, tested < 0 ? constants[i] : Cell(scan.get(), tested).copy());
         }
         if (test.step() && sqlite3_column_double(test.get(), 0) != 0) {
             end();

@@ -132,7 +132,7 @@ Value fieldValue(const Field& field, const QVariant& value)
     return {};
 }
 
-void bind(sqlite3_stmt* statement, int parameter, const Value& value)
+void bindValue(sqlite3_stmt* statement, int parameter, const Value& value)
 {
     struct Binder
     {

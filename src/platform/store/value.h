@@ -25,7 +25,7 @@ Value queryValue(const QVariant& value, bool date);
 /// Throws `Error::BadValue` where the field cannot hold it.
 Value fieldValue(const Field& field, const QVariant& value);
 
-void bind(sqlite3_stmt* statement, int parameter, const Value& value);
+void bindValue(sqlite3_stmt* statement, int parameter, const Value& value);
 
 /// A value on its way out, held by a statement on a row or by a `Value`; good until either changes.
 struct Cell
