@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
 
 namespace talor {
 
@@ -19,11 +20,12 @@ enum class Saisie
     Majuscules, ///< every letter in capitals
     Numero,     ///< the card's own number: digits only, no two cards share it
     Memo,       ///< several lines; an empty one is stored as " "
-    Choix       ///< the `num` of a row of another table, as text; empty when nothing is chosen
+    Choix       ///< the `num` of a row of another table, as text; empty when nothing is chosen. Without entries of its
+                ///< own the dialog gives the control
 };
 
 /// An entry of a field that is chosen from a list.
-struct EntreeListe
+struct EntreeCombo
 {
     qint64 num;
     QString texte;
@@ -38,7 +40,8 @@ struct Champ
     Saisie saisie = Saisie::Libre;
     int longueur = 0; ///< characters that can be typed
     bool obligatoire = false;
-    std::function<QList<EntreeListe>(Exercice&)> choix = {}; ///< of a `Saisie::Choix` that is shown as a drop-down list
+    bool demi = false;                                       ///< takes half a line of the entry frame
+    std::function<QList<EntreeCombo>(Exercice&)> choix = {}; ///< entries of a drop-down list
 };
 
 /// A column of the grid. The cell is built from the row of the table and its rank, counted from 1.

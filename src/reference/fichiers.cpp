@@ -3,8 +3,6 @@
 #include "core/helpers.h"
 #include "reference/categories.h"
 
-#include <QDir>
-
 namespace talor {
 
 using namespace Qt::StringLiterals;
@@ -32,7 +30,7 @@ void creerLignesDeTravail(Exercice& exercice, qint64 num, const Fiche& fiche)
 
 Fiche premierArmateur(Exercice& exercice)
 {
-    const QList<EntreeListe> armateurs = choixArmateurs(exercice);
+    const QList<EntreeCombo> armateurs = choixArmateurs(exercice);
     return armateurs.isEmpty() ? Fiche() : Fiche{{u"armateur"_s, QString::number(armateurs.first().num)}};
 }
 
@@ -59,6 +57,7 @@ const DescriptionFiche& fichierProduits()
                      {u"N°"_s, 700, celluleNumero(), true}},
         .references = {{u"select num_poisson from L_vente where num_poisson = ?"_s,
                         {u"Ce produit est inclus dans un mouvement"_s}}},
+        .invitation = Refus{u"Aucun produit enregistré\ninstaller un nouveau produit"_s, u"TALOR"_s, Icone::Information},
         .colonnesEchangees = 2,
     };
     return description;
@@ -72,16 +71,16 @@ const DescriptionFiche& fichierArmateurs()
         .titreModification = u"Modification"_s,
         .table = &Exercice::Armateurs,
         .requete = u"select * from Armateurs order by ordre"_s,
-        .champs = {{"nom", 1, u"Nom"_s, Saisie::Majuscules, longueurNom, true},
-                   {"prenom", 2, u"Prénom"_s, Saisie::Initiale, longueurNom, true},
+        .champs = {{"nom", 1, u"Nom"_s, Saisie::Majuscules, longueurNom, true, true},
+                   {"prenom", 2, u"Prénom"_s, Saisie::Initiale, longueurNom, true, true},
                    {"adr1", 3, u"Adresse"_s, Saisie::Libre, longueurNom},
                    {"adr2", 4, {}, Saisie::Libre, longueurNom},
-                   {"tel", 5, u"Téléphone"_s, Saisie::Chiffres, longueurTelephone},
-                   {"fax", 6, u"Fax"_s, Saisie::Libre, longueurTelephone},
-                   {"ville", 7, u"Ville"_s, Saisie::Initiale, longueurNom},
-                   {"RC", 8, u"R.C."_s, Saisie::Majuscules, longueurIdentifiant},
-                   {"Id_Fisc", 9, u"Id. Fiscale"_s, Saisie::Libre, longueurIdentifiant},
-                   {"Article", 10, u"Article"_s, Saisie::Libre, longueurIdentifiant},
+                   {"tel", 5, u"Téléphone"_s, Saisie::Chiffres, longueurTelephone, false, true},
+                   {"fax", 6, u"Fax"_s, Saisie::Libre, longueurTelephone, false, true},
+                   {"ville", 7, u"Ville"_s, Saisie::Initiale, longueurNom, false, true},
+                   {"RC", 8, u"R.C."_s, Saisie::Majuscules, longueurIdentifiant, false, true},
+                   {"Id_Fisc", 9, u"Id. Fiscale"_s, Saisie::Libre, longueurIdentifiant, false, true},
+                   {"Article", 10, u"Article"_s, Saisie::Libre, longueurIdentifiant, false, true},
                    {"obs", 11, u"Observations"_s, Saisie::Memo, longueurMemo}},
         .colonnes = {{u"N°"_s, 600, celluleRang(), true},
                      {u"Nom"_s, 2020, celluleTexte("nom")},
@@ -89,6 +88,7 @@ const DescriptionFiche& fichierArmateurs()
                      {u"Tél"_s, 1280, celluleTexte("tel")},
                      {u"Ville"_s, 1700, celluleTexte("ville")}},
         // No test of references, on purpose: the boats of a deleted shipowner show an empty owner.
+        .enterVaAuMemo = true,
     };
     return description;
 }
@@ -104,7 +104,7 @@ const DescriptionFiche& fichierChalutiers()
         .champs = {{"denom", 1, u"Dénomination"_s, Saisie::Initiale, longueurNom, true},
                    {"Port", 2, u"Port"_s, Saisie::Initiale, longueurNom, true},
                    {"matricule", 3, u"Matricule"_s, Saisie::Initiale, longueurIdentifiant},
-                   {"armateur", 1, u"Armateur"_s, Saisie::Choix, 0, false, choixArmateurs},
+                   {"armateur", 1, u"Armateur"_s, Saisie::Choix, 0, false, false, choixArmateurs},
                    {"obs", 4, u"Observations"_s, Saisie::Memo, longueurMemo}},
         .colonnes = {{u"N°"_s, 600, celluleRang(), true},
                      {u"Dénomination"_s, 2020, celluleTexte("denom")},
@@ -131,19 +131,19 @@ const DescriptionFiche& fichierClients()
         .table = &Exercice::Clients,
         .requete = u"select * from Clients order by nom,prenom"_s,
         .requeteManuelle = u"select * from Clients order by ordre"_s,
-        .champs = {{"ordre", 0, u"Numéro"_s, Saisie::Numero, longueurNumero, true},
-                   {"nom", 1, u"Nom"_s, Saisie::Majuscules, longueurNom, true},
-                   {"prenom", 2, u"Prénom"_s, Saisie::Initiale, longueurNom, true},
+        .champs = {{"ordre", 0, u"Numéro"_s, Saisie::Numero, longueurNumero, true, true},
+                   {"famille", 3, u"Catégorie"_s, Saisie::Choix, 0, true, true},
+                   {"nom", 1, u"Nom"_s, Saisie::Majuscules, longueurNom, true, true},
+                   {"prenom", 2, u"Prénom"_s, Saisie::Initiale, longueurNom, true, true},
                    {"adr1", 3, u"Adresse"_s, Saisie::Libre, longueurNom},
                    {"adr2", 4, {}, Saisie::Libre, longueurNom},
-                   {"tel", 5, u"Téléphone"_s, Saisie::Chiffres, longueurTelephone},
-                   {"fax", 6, u"Fax"_s, Saisie::Libre, longueurTelephone},
-                   {"ville", 7, u"Ville"_s, Saisie::Initiale, longueurNom},
-                   {"RC", 8, u"R.C."_s, Saisie::Majuscules, longueurIdentifiant},
-                   {"Id_Fisc", 9, u"Ident. Fiscale"_s, Saisie::Libre, longueurIdentifiant},
-                   {"Article", 10, u"Article"_s, Saisie::Libre, longueurIdentifiant},
-                   {"obs", 11, u"Observations"_s, Saisie::Memo, longueurMemo},
-                   {"famille", 3, u"Catégorie"_s, Saisie::Choix, 0, true}},
+                   {"tel", 5, u"Téléphone"_s, Saisie::Chiffres, longueurTelephone, false, true},
+                   {"fax", 6, u"Fax"_s, Saisie::Libre, longueurTelephone, false, true},
+                   {"ville", 7, u"Ville"_s, Saisie::Initiale, longueurNom, false, true},
+                   {"RC", 8, u"R.C."_s, Saisie::Majuscules, longueurIdentifiant, false, true},
+                   {"Id_Fisc", 9, u"Ident. Fiscale"_s, Saisie::Libre, longueurIdentifiant, false, true},
+                   {"Article", 10, u"Article"_s, Saisie::Libre, longueurIdentifiant, false, true},
+                   {"obs", 11, u"Observations"_s, Saisie::Memo, longueurMemo}},
         .colonnes = {{u"N°"_s, 600, celluleNumero(), true},
                      {u"Nom"_s, 2020, celluleTexte("nom")},
                      {u"Prénom"_s, 2020, celluleTexte("prenom")},
@@ -165,18 +165,13 @@ QString nomArmateur(Exercice& exercice, qint64 num)
     return exercice.Armateurs.seek(num) ? nomComplet(exercice.Armateurs) : QString();
 }
 
-QList<EntreeListe> choixArmateurs(Exercice& exercice)
+QList<EntreeCombo> choixArmateurs(Exercice& exercice)
 {
-    QList<EntreeListe> choix;
+    QList<EntreeCombo> choix;
     store::Recordset liste = exercice.Base().openRecordset(u"select * from Armateurs order by ordre"_s);
     for (bool la = liste.moveFirst(); la; la = liste.moveNext())
         choix.append({liste.num(), nomComplet(liste)});
     return choix;
-}
-
-QString photoProduit(const Exercice& exercice, qint64 num)
-{
-    return CheminReel(QDir(exercice.installation().photos()).filePath(QString::number(num) + u".BMP"_s));
 }
 
 } // namespace talor

@@ -35,6 +35,9 @@ public:
 
     QSize sizeHint() const override;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     void showCaption();
 
@@ -64,7 +67,7 @@ public:
 
     CommandButton* button(int index) const;
 
-    /// Hides or shows every command; the row keeps its height.
+    /// Hides or shows every command; an empty row takes no room.
     void hideAll() { setAllVisible(false); }
     void showAll() { setAllVisible(true); }
     void setAllVisible(bool visible);
