@@ -5,6 +5,7 @@
 #include "platform/controls/named.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QShortcut>
 #include <QStyleOptionToolButton>
 #include <QStylePainter>
@@ -21,8 +22,16 @@ constexpr QSize commandIcon{28, 28};
 constexpr QSize smallIcon{20, 20};
 } // namespace
 
+void KeyedButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QToolButton::keyPressEvent(event);
+}
+
 CommandButton::CommandButton(QStringView icon, const QString& caption, QWidget* parent)
-    : QToolButton(parent)
+    : KeyedButton(parent)
     , m_icon(icon.toString())
     , m_caption(caption)
 {
@@ -121,7 +130,7 @@ void CommandButton::paintEvent(QPaintEvent* event)
 
 QToolButton* iconButton(QStringView name, const QString& spoken, const QKeySequence& shortcut)
 {
-    auto* button = new QToolButton;
+    auto* button = new KeyedButton;
     button->setIcon(icon(name));
     button->setIconSize(smallIcon);
     button->setFocusPolicy(Qt::TabFocus);

@@ -13,6 +13,8 @@
 #include <QTranslator>
 #include <QWidget>
 
+#include <clocale>
+
 // Q_INIT_RESOURCE names a symbol of the global namespace; a static library would drop the resources without it.
 static void initResources()
 {
@@ -151,7 +153,7 @@ void applyLook(QApplication& application)
 {
     initResources();
     QLocale::setDefault(QLocale::c());
-    setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_NUMERIC, "C");
     speakFrench(application);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(lightPalette());
