@@ -2,7 +2,9 @@
 
 #include "platform/controls/dialog.h"
 
-class QListWidget;
+namespace controls {
+class Grid;
+}
 
 namespace talor {
 
@@ -24,10 +26,11 @@ public:
 
 private:
     Mecano(Exercice& exercice, QWidget* parent);
+    void lister();
     void reparer();
 
     Exercice& m_exercice;
-    QListWidget* m_fichiers;
+    controls::Grid* m_fichiers;
     Fin m_fin = Fin::Ferme;
 };
 

@@ -20,6 +20,7 @@ using controls::named;
 namespace {
 
 constexpr QSize tailleAide(760, 560);
+constexpr int margeAide = 18;
 constexpr int coteEmbleme = 96;
 
 void ajouterFermer(controls::Dialog& dialogue)
@@ -45,6 +46,7 @@ void montrerAide(QWidget* parent)
     controls::Dialog dialogue(u"F_HLP", u"Aide"_s, parent);
     auto* texte = named(new QTextBrowser, u"Text1");
     texte->setHtml(presentation());
+    texte->document()->setDocumentMargin(margeAide);
     dialogue.body()->addWidget(texte);
     ajouterFermer(dialogue);
     dialogue.resize(tailleAide);

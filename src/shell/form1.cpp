@@ -1,6 +1,6 @@
 #include "shell/form1.h"
 
-#include "core/message_window.h"
+#include "core/montrer.h"
 #include "platform/controls/message.h"
 #include "platform/controls/named.h"
 #include "shell/barre_menus.h"
@@ -21,6 +21,8 @@ using namespace Qt::StringLiterals;
 using controls::named;
 
 namespace {
+
+constexpr int hauteurAvecPort = 600;
 
 const QStringList entreesResolution = {u"R0"_s, u"R1"_s, u"R2"_s};
 
@@ -44,7 +46,7 @@ Form1::Form1(Exercice& exercice)
     m_pages->addWidget(m_facturation);
 
     auto* milieu = new QHBoxLayout;
-    milieu->setContentsMargins(24, 20, 24, 24);
+    milieu->setContentsMargins(24, 16, 24, 20);
     milieu->setSpacing(20);
     milieu->addWidget(m_gauche);
     milieu->addWidget(m_pages, 1);
@@ -65,6 +67,7 @@ Form1::Form1(Exercice& exercice)
     brancherLesSiennes();
     m_menus->cocher(entreesResolution[static_cast<int>(m_resolution)]);
     actualiser();
+    setTabOrder(m_facturation, m_entete->guide());
 }
 
 Form1::~Form1() = default;
@@ -121,21 +124,27 @@ void Form1::actualiserImages()
 {
     m_gauche->charger(imageLaterale(m_exercice.installation(), u"Gauche"_s));
     m_droite->charger(imageLaterale(m_exercice.installation(), u"Droit"_s));
-    m_entete->setPortMontre(m_gauche->estVide() && m_droite->estVide());
+    montrerPort();
+}
+
+/// The drawn port stands where the trader has no pictures of his own and the window has room for it.
+void Form1::montrerPort()
+{
+    m_entete->setPortMontre(m_gauche->estVide() && m_droite->estVide() && height() >= hauteurAvecPort);
 }
 
 void Form1::ouvrirFacturation()
 {
     m_menus->setEnabled(false);
     m_pages->setCurrentWidget(m_facturation);
-    m_facturation->setFocus();
+    m_facturation->prendreFocus();
 }
 
 void Form1::fermerFacturation()
 {
     m_pages->setCurrentWidget(m_raccourcis);
     m_menus->setEnabled(true);
-    m_raccourcis->setFocus();
+    m_raccourcis->prendreFocus();
 }
 
 void Form1::terminer()
@@ -153,6 +162,18 @@ void Form1::closeEvent(QCloseEvent* event)
     for (const Refus& echec : arreterExercice(m_exercice, m_resolution))
         montrer(this, echec);
     event->accept();
+}
+
+void Form1::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    m_raccourcis->prendreFocus();
+}
+
+void Form1::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    montrerPort();
 }
 
 void Form1::changeEvent(QEvent* event)

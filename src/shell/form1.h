@@ -46,6 +46,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -54,6 +56,7 @@ private:
     void fermerFacturation();
     void actualiserMenus();
     void actualiserImages();
+    void montrerPort();
     bool disponible(const QString& entree) const { return m_fonctions.contains(entree); }
 
     Exercice& m_exercice;
