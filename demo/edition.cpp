@@ -1,6 +1,7 @@
 #include "demo/edition.h"
 
 #include "core/report.h"
+#include "core/report_texts.h"
 #include "invoicing/invoice_register.h"
 #include "platform/reports/paint.h"
 
@@ -69,7 +70,7 @@ Resultat<QList<Imprime>> Edition::listes()
     for (const Liste& liste : listes) {
         Etat etat = {.modele = liste.modele, .formule = {}, .tri = liste.tri, .remplir = {}, .titre = {}};
         if (!liste.classement.isEmpty())
-            etat.remplir = [&](Exercice& exercice) { EcrireTextes(exercice, {{"ch4", liste.classement}}); };
+            etat.remplir = [&](Exercice& exercice) { ecrireTextes(exercice, {{"ch4", liste.classement}}); };
         const Resultat<reports::Document> document = ComposerEtat(m_exercice, etat);
         if (!document)
             return document.refus();

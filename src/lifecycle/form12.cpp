@@ -1,6 +1,6 @@
 #include "lifecycle/form12.h"
 
-#include "core/message_window.h"
+#include "core/montrer.h"
 #include "lifecycle/premier_exercice.h"
 #include "platform/controls/command_bar.h"
 #include "platform/controls/field_chain.h"

@@ -1,7 +1,7 @@
 #include "lifecycle/mecano.h"
 
 #include "core/helpers.h"
-#include "core/message_window.h"
+#include "core/montrer.h"
 #include "lifecycle/reparation.h"
 #include "platform/controls/command_bar.h"
 #include "platform/controls/grid.h"

@@ -1,7 +1,7 @@
 #include "sales/bordereau_register.h"
 
 #include "core/helpers.h"
-#include "sales/report_texts.h"
+#include "core/report_texts.h"
 #include "sales/typed_dates.h"
 
 namespace talor {

@@ -1,6 +1,6 @@
 #include "shell/form1.h"
 
-#include "core/message_window.h"
+#include "core/montrer.h"
 #include "platform/controls/message.h"
 #include "platform/controls/named.h"
 #include "shell/barre_menus.h"

@@ -1,5 +1,6 @@
 #include "shell/listes.h"
 
+#include "core/report_texts.h"
 #include "core/state.h"
 
 namespace talor {
@@ -10,7 +11,7 @@ namespace {
 
 Etat liste(const QString& modele, const QString& titre, const QStringList& tri, const QString& ch4)
 {
-    return {modele, {}, tri, [ch4](Exercice& exercice) { EcrireTextes(exercice, {{"ch4", ch4}}); }, titre};
+    return {modele, {}, tri, [ch4](Exercice& exercice) { ecrireTextes(exercice, {{"ch4", ch4}}); }, titre};
 }
 
 Etat listeClassee(const QString& modele, const QString& titre, Classement classement, const QString& triManuel,

@@ -12,7 +12,7 @@ using namespace reports;
 namespace {
 
 /// A sheet with a body 100 mm high and 100 mm wide, so that ten bands of 10 mm fill it.
-QString report(const QString& content)
+QString reportOf(const QString& content)
 {
     return u"<report><page left=\"55\" right=\"55\" top=\"98.5\" bottom=\"98.5\" font-size=\"10\"/>%1</report>"_s.arg(
         content);
@@ -30,7 +30,7 @@ Document lay(const QString& content, const QList<SampleRow>& data, const Request
 {
     MemorySource source;
     source.tables[u"T"_s] = data;
-    return layOut(Template::read(report(content).toUtf8(), u"Essai.RPT"_s), source, request);
+    return layOut(Template::read(reportOf(content).toUtf8(), u"Essai.RPT"_s), source, request);
 }
 
 const QString detail = u"<detail height=\"10\"><text>ligne {T.n}</text></detail>"_s;

@@ -70,6 +70,11 @@ TEST(Templates, EveryOneCanBeRead)
         EXPECT_FALSE(reports::Template::load(templates.filePath(file)).fields().isEmpty()) << file.toStdString();
 }
 
+TEST(Invoice, OfTwentyFiveLinesTakesOneSheet)
+{
+    EXPECT_EQ(printInvoice(25, samples::invoiceTexts(12)).pageCount(), 1);
+}
+
 TEST(Invoice, OfEightyLinesRepeatsItsHeadingsAndKeepsItsEndTogether)
 {
     const reports::Document document = printInvoice(80, samples::invoiceTexts(12));
