@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QKeySequence>
 #include <QTest>
 #include <QTimer>
@@ -14,8 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int pas = 15;               // milliseconds between two keys
-constexpr int attenteMaximale = 3000; // milliseconds until a window must stand
+constexpr int pas = 15;          // milliseconds between two steps
+constexpr int attente = 3000;    // milliseconds until a window must stand
+constexpr int sortiesPolies = 5; // times that a dialog is asked to close before it is told to
 
 } // namespace
 
@@ -31,10 +30,85 @@ void taper(const QString& touche)
     if (touche.startsWith(u'<') && touche.endsWith(u'>') && touche.size() > 2) {
         const QKeyCombination combinaison = QKeySequence::fromString(touche.mid(1, touche.size() - 2))[0];
         QTest::keyClick(cible, combinaison.key(), combinaison.keyboardModifiers());
-    } else {
-        QTest::keyClicks(cible, touche);
+        return;
     }
+    for (const QChar caractere : touche)
+        QTest::sendKeyEvent(QTest::Click, cible, Qt::Key_unknown, QString(caractere), Qt::NoModifier);
 }
+
+/// One picture under way. A key may open a dialog and return only once it is closed, so each step is a timer of its own
+/// that goes on meanwhile; a step that comes when all is over finds nothing to do.
+class Photographe::Prise : public QObject
+{
+public:
+    Prise(QWidget& fenetre, const Ecran& ecran, const QString& chemin)
+        : m_fenetre(fenetre)
+        , m_ecran(ecran)
+        , m_chemin(chemin)
+    {
+        planifier();
+    }
+
+    bool estFinie() const { return m_etape == Etape::Finie; }
+    const std::optional<QString>& faute() const { return m_faute; }
+
+private:
+    enum class Etape
+    {
+        Touches,
+        Fermeture,
+        Finie
+    };
+
+    void planifier()
+    {
+        QTimer::singleShot(pas, this, [this] { avancer(); });
+    }
+
+    void avancer()
+    {
+        planifier();
+        QWidget* const modale = QApplication::activeModalWidget();
+        if (m_etape == Etape::Touches) {
+            if (modale || !m_ecran.modale)
+                presserOuPrendre(modale ? modale : &m_fenetre);
+        } else if (modale) {
+            fermer(modale);
+        } else {
+            m_etape = Etape::Finie;
+        }
+    }
+
+    void presserOuPrendre(QWidget* devant)
+    {
+        if (m_touche < m_ecran.touches.size()) {
+            taper(m_ecran.touches[m_touche++]);
+            return;
+        }
+        m_etape = Etape::Fermeture;
+        if (!devant->grab().save(m_chemin))
+            m_faute = u"l'image « "_s + m_chemin + u" » n'a pu être écrite"_s;
+    }
+
+    void fermer(QWidget* modale)
+    {
+        auto* const dialogue = qobject_cast<QDialog*>(modale);
+        if (!dialogue)
+            modale->close();
+        else if (++m_sorties <= sortiesPolies)
+            dialogue->reject();
+        else
+            dialogue->done(QDialog::Rejected);
+    }
+
+    QWidget& m_fenetre;
+    const Ecran& m_ecran;
+    QString m_chemin;
+    Etape m_etape = Etape::Touches;
+    qsizetype m_touche = 0;
+    int m_sorties = 0;
+    std::optional<QString> m_faute;
+};
 
 Photographe::Photographe(QWidget& fenetre, const QDir& dossier)
     : m_fenetre(fenetre)
@@ -43,81 +117,11 @@ Photographe::Photographe(QWidget& fenetre, const QDir& dossier)
 
 std::optional<QString> Photographe::prendre(const Ecran& ecran)
 {
-    m_nom = ecran.nom;
-    m_touches = ecran.touches;
-    m_modale = ecran.modale;
-    m_prise = m_finie = false;
-    m_faute.reset();
-
-    planifier();
+    Prise prise(m_fenetre, ecran, m_dossier.filePath(ecran.nom + u".png"_s));
     ecran.ouvrir();
-    QElapsedTimer attente;
-    attente.start();
-    while (!m_finie && attente.elapsed() < attenteMaximale)
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, pas);
-    m_finie = true;
-    if (!m_prise && !m_faute)
-        m_faute = u"l'écran « "_s + m_nom + u" » ne s'est pas ouvert"_s;
-    return m_faute;
-}
-
-/// Each step is a timer of its own: a key may open a dialog and return only once it is closed, and the steps must go
-/// on meanwhile.
-void Photographe::planifier()
-{
-    QTimer::singleShot(pas, qApp, [this] { avancer(); });
-}
-
-void Photographe::avancer()
-{
-    if (m_finie)
-        return;
-    QWidget* const devant_ = devant();
-    if (!devant_) {
-        if (m_prise)
-            m_finie = true;
-        else
-            planifier();
-        return;
-    }
-    if (!m_prise) {
-        if (presser())
-            return;
-        const QString chemin = m_dossier.filePath(m_nom + u".png"_s);
-        if (!devant_->grab().save(chemin))
-            m_faute = u"l'image "_s + chemin + u" n'a pu être écrite"_s;
-        m_prise = true;
-        planifier();
-        return;
-    }
-    if (devant_ == &m_fenetre) {
-        m_finie = true;
-        return;
-    }
-    planifier();
-    if (auto* dialogue = qobject_cast<QDialog*>(devant_))
-        dialogue->reject();
-    else
-        devant_->close();
-}
-
-/// Presses the next key; false when none is left.
-bool Photographe::presser()
-{
-    if (m_touches.isEmpty())
-        return false;
-    const QString touche = m_touches.takeFirst();
-    planifier();
-    taper(touche);
-    return true;
-}
-
-/// The window in front, or nothing while none stands there that could be taken.
-QWidget* Photographe::devant() const
-{
-    if (QWidget* const modale = QApplication::activeModalWidget())
-        return modale->isVisible() ? modale : nullptr;
-    return m_modale && !m_prise ? nullptr : &m_fenetre;
+    if (!QTest::qWaitFor([&] { return prise.estFinie(); }, attente))
+        return u"l'écran « "_s + ecran.nom + u" » ne s'est pas ouvert"_s;
+    return prise.faute();
 }
 
 } // namespace talor::demo

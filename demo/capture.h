@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDir>
-#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
@@ -33,19 +32,10 @@ public:
     std::optional<QString> prendre(const Ecran& ecran);
 
 private:
-    void avancer();
-    void planifier();
-    bool presser();
-    QWidget* devant() const;
+    class Prise;
 
     QWidget& m_fenetre;
     QDir m_dossier;
-    QString m_nom;
-    QStringList m_touches;
-    bool m_modale = true;
-    bool m_prise = false;
-    bool m_finie = false;
-    std::optional<QString> m_faute;
 };
 
 } // namespace talor::demo

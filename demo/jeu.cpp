@@ -1,5 +1,7 @@
 #include "demo/jeu.h"
 
+#include "core/helpers.h"
+#include "core/schema.h"
 #include "invoicing/invoicing.h"
 #include "platform/services/clock.h"
 #include "reference/categories.h"
@@ -109,6 +111,7 @@ Jeu::Jeu(Exercice& exercice, const Saison& saison, Annonce annonce)
 std::optional<Refus> Jeu::jouer()
 {
     services::clock::setToday(m_saison.journees.first().date);
+    identifier();
     if (const std::optional<Refus> refus = ouvrirFiches())
         return refus;
     for (const Journee& journee : m_saison.journees) {
@@ -121,6 +124,18 @@ std::optional<Refus> Jeu::jouer()
             return refus;
     }
     return std::nullopt;
+}
+
+void Jeu::identifier()
+{
+    const Mandataire& m = m_saison.mandataire;
+    store::Recordset& permn = m_exercice.Permn;
+    permn.requery();
+    permn.edit();
+    int champ = position::identiteFiscale;
+    for (const QString& texte : {m.tel, m.fax, m.RC, m.Id_Fisc, m.Article, m.compte})
+        permn.set(champ++, texte);
+    permn.update();
 }
 
 std::optional<Refus> Jeu::ouvrirFiches()
@@ -172,7 +187,7 @@ std::optional<Refus> Jeu::ouvrirArmateurs()
 
 std::optional<Refus> Jeu::ouvrirEmbarcations()
 {
-    const QList<Choix> armateurs = choixArmateurs(m_exercice); // in the order of the season's own list
+    const QList<EntreeCombo> armateurs = choixArmateurs(m_exercice); // in the order of the season's own list
     Fiches fiches(m_exercice, fichierChalutiers());
     fiches.remplir();
     for (const Embarcation& e : m_saison.embarcations) {
@@ -240,7 +255,7 @@ std::optional<Refus> Jeu::saisirBordereau(const Journee& journee, const Borderea
     m_annonce(u"  Bordereau N° %1  %2 %3 lignes  %4 DA"_s.arg(cadre.numero, 2)
                   .arg(embarcation.denom, -18)
                   .arg(saisie.nbLignes(), 3)
-                  .arg(saisie.totaux().brut.trimmed(), 13));
+                  .arg(Format(Valeur(saisie.totaux().brut), u"### ### ##0.00"_s), 13));
     return std::nullopt;
 }
 

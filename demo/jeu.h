@@ -22,6 +22,7 @@ public:
     std::optional<Refus> jouer();
 
     // The same in steps.
+    void identifier();
     std::optional<Refus> ouvrirFiches();
     std::optional<Refus> saisirBordereau(const Journee& journee, const Bordereau& bordereau);
     std::optional<Refus> facturer(const Journee& journee);

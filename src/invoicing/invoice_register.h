@@ -1,7 +1,7 @@
 #pragma once
 
-#include "sales/lookups.h"
 #include "core/report_texts.h"
+#include "sales/lookups.h"
 
 namespace talor {
 
