@@ -36,8 +36,6 @@ void backup(Connection& source, const QString& target)
     Replacement replacement(target);
     {
         Connection copy(replacement.path(), Connection::Create);
-        // Nothing to undo here: a copy that fails is thrown away. It is synced once, when it is whole.
-        copy.run("pragma journal_mode = off; pragma synchronous = off");
         copyPages(source, copy, target);
     }
     replacement.commit();

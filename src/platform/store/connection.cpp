@@ -86,6 +86,8 @@ Connection::Connection(const QString& path, Mode mode)
     sqlite3_db_config(m_connection, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
     sqlite3_db_config(m_connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     addTextFunctions(m_connection);
+    if (mode == Create)
+        run("pragma journal_mode = off; pragma synchronous = off; pragma cache_size = -65536");
 }
 
 Connection::~Connection()
@@ -95,9 +97,9 @@ Connection::~Connection()
     sqlite3_close_v2(m_connection);
 }
 
-void Connection::run(const char* sql)
+void Connection::run(const QByteArray& sql)
 {
-    if (sqlite3_exec(m_connection, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+    if (sqlite3_exec(m_connection, sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
         fail();
 }
 

@@ -62,7 +62,7 @@ public:
     const QString& path() const { return m_path; }
 
     /// Runs statements that return nothing.
-    void run(const char* sql);
+    void run(const QByteArray& sql);
     /// First column of the first row as a number, 0 when there is none.
     qint64 number(const char* sql);
     /// First column of all rows.

@@ -20,7 +20,8 @@ namespace {
 /// transaction from reaching the file before its commit.
 constexpr const char* settings = "pragma journal_mode = delete; pragma synchronous = extra;"
                                  "pragma cache_size = -65536; pragma temp_store = memory;"
-                                 "pragma foreign_keys = off; pragma cell_size_check = on;";
+                                 "pragma foreign_keys = off; pragma cell_size_check = on;"
+                                 "pragma secure_delete = on;";
 
 const QString& existing(const QString& path)
 {
@@ -40,6 +41,9 @@ Database::Impl::Impl(const QString& path, const Catalogue& known)
     connection.run(settings);
     // Takes the lock now, so that a second program is refused at the door and not at its first write.
     connection.run("begin exclusive; commit");
+    // A journal that a crash left behind, of use no more, goes at the close only when it has been written to.
+    if (QFileInfo::exists(path + u"-journal"_s) && !sqlite3_db_readonly(connection.get(), "main"))
+        connection.run("pragma user_version = " + QByteArray::number(known.version()));
 }
 
 Database::Impl::~Impl()
@@ -93,7 +97,7 @@ qint64 Database::Impl::write(const Table& table, const QByteArray& sql, const Va
 void Database::Impl::undo(const QByteArray& sql)
 {
     aboutToWrite(~quint64(0));
-    connection.run(sql.constData());
+    connection.run(sql);
 }
 
 void Database::Impl::aboutToWrite(quint64 tables)

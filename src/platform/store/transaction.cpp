@@ -19,7 +19,7 @@ Transaction::Transaction(Database& database)
 {
     Database::Impl& d = database.impl();
     d.checkTransaction();
-    d.connection.run(d.transactions == 0 ? "begin immediate" : ("savepoint " + savepoint(d.transactions)).constData());
+    d.connection.run(d.transactions == 0 ? QByteArray("begin immediate") : "savepoint " + savepoint(d.transactions));
     ++d.transactions;
 }
 
@@ -45,7 +45,7 @@ void Transaction::commit()
 {
     Database::Impl& d = m_database.impl();
     d.checkTransaction();
-    d.connection.run(d.transactions == 1 ? "commit" : ("release " + savepoint(d.transactions - 1)).constData());
+    d.connection.run(d.transactions == 1 ? QByteArray("commit") : "release " + savepoint(d.transactions - 1));
     --d.transactions;
     m_open = false;
 }
