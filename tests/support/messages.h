@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/controls/file_dialog.h"
 #include "platform/controls/message.h"
 #include "tests/support/print.h"
 
@@ -88,6 +89,45 @@ private:
     qsizetype m_next = 0;
     QList<controls::MessageText> m_shown;
     controls::Message::Script m_former;
+};
+
+/// The answers of the file dialogs that must come while it lives, in this order, and no other. An empty path is a
+/// dialog given up.
+class ExpectFiles
+{
+public:
+    ExpectFiles(std::initializer_list<QString> paths)
+        : m_paths(paths)
+        , m_former(controls::FileDialog::setScript([this](const auto& request) { return answer(request); }))
+    {}
+
+    ~ExpectFiles()
+    {
+        for (const QString& path : std::as_const(m_paths))
+            ADD_FAILURE() << "This file was never asked for: " << path.toStdString();
+        controls::FileDialog::setScript(m_former);
+    }
+
+    ExpectFiles(const ExpectFiles&) = delete;
+    ExpectFiles& operator=(const ExpectFiles&) = delete;
+
+    /// The dialogs as they came.
+    const QList<controls::FileDialog::Request>& asked() const { return m_asked; }
+
+private:
+    QString answer(const controls::FileDialog::Request& request)
+    {
+        m_asked.append(request);
+        if (m_paths.isEmpty()) {
+            ADD_FAILURE() << "Unexpected file dialog: " << request.title.toStdString();
+            return {};
+        }
+        return m_paths.takeFirst();
+    }
+
+    QStringList m_paths;
+    QList<controls::FileDialog::Request> m_asked;
+    controls::FileDialog::Script m_former;
 };
 
 /// The boxes themselves on screen while it lives, for a test that presses their buttons.

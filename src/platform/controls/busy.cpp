@@ -25,6 +25,7 @@ Busy::~Busy()
 
 Progress::Progress(QWidget* parent, const QString& text, int steps, Cancel cancel)
     : m_bar(named(new QProgressDialog(text, u"Annuler"_s, 0, steps, parent), u"Progression"))
+    , m_cancel(cancel)
 {
     m_bar->setWindowTitle(u"TALOR"_s);
     m_bar->setWindowModality(Qt::WindowModal);
@@ -43,13 +44,14 @@ Progress::~Progress()
 
 bool Progress::advance(int done)
 {
-    m_bar->setValue(done);
+    if (m_bar)
+        m_bar->setValue(done);
     return !cancelled();
 }
 
 bool Progress::cancelled() const
 {
-    return m_bar->wasCanceled();
+    return m_cancel == Cancel::Allowed && m_bar && m_bar->wasCanceled();
 }
 
 } // namespace controls

@@ -43,6 +43,7 @@ public:
 
 private:
     QPointer<QProgressDialog> m_bar;
+    Cancel m_cancel;
 };
 
 } // namespace controls

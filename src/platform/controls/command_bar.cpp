@@ -5,9 +5,13 @@
 #include "platform/controls/named.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QShortcut>
+#include <QStyleOptionToolButton>
+#include <QStylePainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace controls {
 
@@ -18,8 +22,16 @@ constexpr QSize commandIcon{28, 28};
 constexpr QSize smallIcon{20, 20};
 } // namespace
 
+void KeyedButton::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QToolButton::keyPressEvent(event);
+}
+
 CommandButton::CommandButton(QStringView icon, const QString& caption, QWidget* parent)
-    : QToolButton(parent)
+    : KeyedButton(parent)
     , m_icon(icon.toString())
     , m_caption(caption)
 {
@@ -91,9 +103,34 @@ QSize CommandButton::sizeHint() const
     return QToolButton::sizeHint().expandedTo(m_compact ? flat : tall);
 }
 
+/// A tool button sets a caption beside its picture to the left; here both stand in the middle, as in every button.
+void CommandButton::paintEvent(QPaintEvent* event)
+{
+    if (!m_compact) {
+        QToolButton::paintEvent(event);
+        return;
+    }
+    constexpr int gap = 7;
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    const QString caption = std::exchange(option.text, {});
+    const QIcon picture = std::exchange(option.icon, {});
+    QStylePainter painter(this);
+    painter.drawComplexControl(QStyle::CC_ToolButton, option);
+
+    const int textWidth = option.fontMetrics.size(Qt::TextShowMnemonic, caption).width();
+    QRect place(0, 0, iconSize().width() + gap + textWidth, height());
+    place.moveCenter(rect().center());
+    picture.paint(&painter, QRect(place.topLeft(), QSize(iconSize().width(), height())), Qt::AlignCenter,
+                  isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    const bool primary = property("role").isValid();
+    painter.setPen(!isEnabled() ? colour::disabled : primary ? colour::paper : colour::ink);
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextShowMnemonic, caption);
+}
+
 QToolButton* iconButton(QStringView name, const QString& spoken, const QKeySequence& shortcut)
 {
-    auto* button = new QToolButton;
+    auto* button = new KeyedButton;
     button->setIcon(icon(name));
     button->setIconSize(smallIcon);
     button->setFocusPolicy(Qt::TabFocus);
@@ -120,9 +157,6 @@ CommandButton* CommandBar::add(int index, QStringView icon, const QString& capti
     auto* button = named(new CommandButton(icon, caption), m_family, index);
     button->setMnemonic(freeLetter(caption));
     button->setCommandShortcut(shortcut);
-    QSizePolicy kept = button->sizePolicy();
-    kept.setRetainSizeWhenHidden(true);
-    button->setSizePolicy(kept);
     connect(button, &QToolButton::clicked, this, [this, index] { emit triggered(index); });
     m_row->addWidget(button);
     m_buttons.insert(index, button);

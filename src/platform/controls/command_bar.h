@@ -8,9 +8,21 @@ class QHBoxLayout;
 
 namespace controls {
 
+/// A tool button that Enter presses too, not the blank alone.
+class KeyedButton : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
 /// A command: a picture over its caption. A click does not take the focus from the field that has it; the keyboard
 /// reaches it by Tab, by its letter with Alt, and by its shortcut.
-class CommandButton : public QToolButton
+class CommandButton : public KeyedButton
 {
     Q_OBJECT
 
@@ -34,6 +46,9 @@ public:
     void setCompact();
 
     QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void showCaption();
@@ -64,7 +79,7 @@ public:
 
     CommandButton* button(int index) const;
 
-    /// Hides or shows every command; the row keeps its height.
+    /// Hides or shows every command; an empty row takes no room.
     void hideAll() { setAllVisible(false); }
     void showAll() { setAllVisible(true); }
     void setAllVisible(bool visible);

@@ -82,11 +82,19 @@ void Dialog::reject()
     }
 }
 
-void Dialog::showEvent(QShowEvent* event)
+void Dialog::setVisible(bool visible)
 {
-    QDialog::showEvent(event);
-    if (!std::exchange(m_placed, true))
+    if (visible && !std::exchange(m_placed, true)) {
+        // The style sheet gives the controls their true sizes.
+        ensurePolished();
+        for (const QWidget* inner : findChildren<QWidget*>())
+            inner->ensurePolished();
+        // Qt would hold a window that nobody has resized to two thirds of the screen.
+        if (!testAttribute(Qt::WA_Resized))
+            resize(sizeHint());
         centre(this);
+    }
+    QDialog::setVisible(visible);
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event)
@@ -100,12 +108,12 @@ void Dialog::keyPressEvent(QKeyEvent* event)
 
 void centre(QWidget* window)
 {
+    // The window system's own frame is known only once the window is shown; this is what one takes at most.
+    constexpr QSize frame{8, 40};
     const QRect screen = window->screen()->availableGeometry();
-    const QSize frame = window->frameGeometry().size() - window->size();
     window->resize(window->size().boundedTo(screen.size() - frame));
-    const QSize whole = window->size() + frame;
-    window->move(screen.x() + (screen.width() - whole.width()) / 2,
-                 screen.y() + (screen.height() - whole.height()) / 2);
+    window->move(screen.x() + (screen.width() - window->width()) / 2,
+                 screen.y() + (screen.height() - window->height()) / 2);
 }
 
 } // namespace controls

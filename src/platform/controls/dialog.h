@@ -37,11 +37,11 @@ public:
     /// Ends the dialog.
     void leave(int result = 0) { done(result); }
 
+    void setVisible(bool visible) override;
     void done(int result) override;
     void reject() override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
@@ -54,7 +54,7 @@ private:
     bool m_placed = false;
 };
 
-/// Puts a window in the middle of its screen, cut to the screen's size where it is larger.
+/// Puts a window in the middle of its screen, cut to the screen where it is larger.
 void centre(QWidget* window);
 
 } // namespace controls

@@ -16,14 +16,13 @@ using namespace Qt::StringLiterals;
 EntryPanel::EntryPanel(QStringView name, QStringView titleName, QWidget* parent)
     : QFrame(parent)
     , m_title(named(sectionLabel(), titleName))
-    , m_fields(new QGridLayout)
+    , m_columns(new QHBoxLayout)
     , m_foot(new QHBoxLayout)
 {
     named(this, name);
     setRole(this, Role::Panel);
-    m_fields->setHorizontalSpacing(12);
-    m_fields->setVerticalSpacing(8);
-    m_fields->setColumnStretch(1, 1);
+    m_columns->setSpacing(24);
+    nextColumn();
     m_foot->setSpacing(6);
     m_foot->addStretch();
 
@@ -31,7 +30,8 @@ EntryPanel::EntryPanel(QStringView name, QStringView titleName, QWidget* parent)
     column->setContentsMargins(16, 12, 16, 12);
     column->setSpacing(12);
     column->addWidget(m_title);
-    column->addLayout(m_fields, 1);
+    column->addLayout(m_columns);
+    column->addStretch();
     column->addLayout(m_foot);
 }
 
@@ -53,10 +53,10 @@ QLabel* EntryPanel::addField(const QString& caption, QWidget* field)
 QLabel* EntryPanel::addFields(const QString& caption, const QList<QWidget*>& fields)
 {
     const int row = m_fields->rowCount();
-    auto* label = captionLabel(caption, fields.first());
     const bool tall = qobject_cast<QPlainTextEdit*>(fields.first());
+    auto* label = captionLabel(caption, fields.first());
     // The caption of a tall field stands beside its first line.
-    label->setContentsMargins(0, tall ? 6 : 0, 0, 0);
+    label->setContentsMargins(0, tall ? 8 : 0, 0, 0);
     m_fields->addWidget(label, row, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
     auto* line = new QHBoxLayout;
     line->setSpacing(6);
@@ -64,6 +64,16 @@ QLabel* EntryPanel::addFields(const QString& caption, const QList<QWidget*>& fie
         line->addWidget(field, field == fields.first() ? 1 : 0);
     m_fields->addLayout(line, row, 1);
     return label;
+}
+
+void EntryPanel::nextColumn()
+{
+    m_fields = new QGridLayout;
+    m_fields->setHorizontalSpacing(12);
+    m_fields->setVerticalSpacing(8);
+    m_fields->setColumnStretch(1, 1);
+    m_columns->addLayout(m_fields, 1);
+    m_columns->setAlignment(m_fields, Qt::AlignTop);
 }
 
 void EntryPanel::addWide(QWidget* widget)

@@ -10,7 +10,7 @@ namespace controls {
 
 class CommandButton;
 
-/// The panel in which a record is entered: a title, captions and fields in two columns, and at its foot the buttons
+/// The panel in which a record is entered: a title, captions beside their fields, and at its foot the buttons
 /// that take it and leave it.
 ///
 ///     auto* panel = new EntryPanel(u"SSFrame1", u"SSPanel2");
@@ -32,7 +32,9 @@ public:
     QLabel* addField(const QString& caption, QWidget* field);
     /// One caption and several widgets side by side: a date and its calendar button. The first takes the room.
     QLabel* addFields(const QString& caption, const QList<QWidget*>& fields);
-    /// Something over the whole width.
+    /// The fields that follow stand in a further column beside those before, from the top.
+    void nextColumn();
+    /// Something over the whole width of the column.
     void addWide(QWidget* widget);
 
     /// The button that takes the entry ("OK", Ctrl+Enter) and the one that leaves it ("Annuler").
@@ -45,7 +47,8 @@ private:
     CommandButton* addFootButton(QStringView family, int index, QStringView icon, const QString& caption);
 
     QLabel* m_title;
-    QGridLayout* m_fields;
+    QHBoxLayout* m_columns;
+    QGridLayout* m_fields = nullptr; ///< of the last column
     QHBoxLayout* m_foot;
 };
 

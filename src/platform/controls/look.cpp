@@ -13,6 +13,8 @@
 #include <QTranslator>
 #include <QWidget>
 
+#include <clocale>
+
 // Q_INIT_RESOURCE names a symbol of the global namespace; a static library would drop the resources without it.
 static void initResources()
 {
@@ -108,14 +110,22 @@ QString nameOf(Role role)
         return u"total"_s;
     case Role::Hint:
         return u"hint"_s;
-    case Role::Owed:
-        return u"owed"_s;
     case Role::Panel:
         return u"panel"_s;
     case Role::Display:
         return u"display"_s;
     }
     return {};
+}
+
+/// A widget that the style sheet has dressed already must be dressed anew.
+void dress(QWidget* widget, const char* property, const QVariant& value)
+{
+    if (widget->property(property) == value)
+        return;
+    widget->setProperty(property, value);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
 }
 
 void speakFrench(QApplication& application)
@@ -131,17 +141,19 @@ void speakFrench(QApplication& application)
 
 void setRole(QWidget* widget, Role role)
 {
-    widget->setProperty("role", nameOf(role));
-    // A widget that the style sheet has dressed already must be dressed anew.
-    widget->style()->unpolish(widget);
-    widget->style()->polish(widget);
+    dress(widget, "role", nameOf(role));
+}
+
+void setOwed(QWidget* label, bool owed)
+{
+    dress(label, "owed", owed);
 }
 
 void applyLook(QApplication& application)
 {
     initResources();
     QLocale::setDefault(QLocale::c());
-    setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_NUMERIC, "C");
     speakFrench(application);
     QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(lightPalette());

@@ -38,12 +38,13 @@ enum class Role
     Value,    ///< a computed figure or text, in a box like a field that cannot be typed into
     Total,    ///< the figure of a total
     Hint,     ///< small quiet text
-    Owed,     ///< red
     Panel,    ///< a frame around fields, on paper
     Display,  ///< the figures of a number pad
 };
 
 void setRole(QWidget* widget, Role role);
+/// Red text for what is owed, or ink again.
+void setOwed(QWidget* label, bool owed);
 
 /// Dresses the application: style, palette, fonts, style sheet, icon, French texts of the standard dialogs, and numbers
 /// read and written with "." whatever the machine's settings. Once, before the first window.

@@ -144,9 +144,13 @@ Message::Message(QWidget* parent, const MessageText& message)
     line->addWidget(textLabel(message.text), 1, Qt::AlignVCenter);
 
     auto* choices = new QHBoxLayout;
+    choices->setSpacing(8);
     choices->addStretch();
-    for (const Answer each : answersOf(message.buttons))
-        choices->addWidget(addButton(each));
+    QList<QPushButton*> buttons;
+    for (const Answer each : answersOf(message.buttons)) {
+        buttons.append(addButton(each));
+        choices->addWidget(buttons.last());
+    }
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(20, 20, 20, 16);
@@ -154,6 +158,7 @@ Message::Message(QWidget* parent, const MessageText& message)
     column->addLayout(line);
     column->addLayout(choices);
     column->setSizeConstraint(QLayout::SetFixedSize);
+    buttons.first()->setFocus();
 }
 
 QPushButton* Message::addButton(Answer answer)
@@ -162,10 +167,8 @@ QPushButton* Message::addButton(Answer answer)
     button->setMinimumWidth(96);
     const bool first = answer == Answer::Ok || answer == Answer::Yes;
     button->setDefault(first);
-    if (first) {
+    if (first)
         setRole(button, Role::Primary);
-        button->setFocus();
-    }
     connect(button, &QPushButton::clicked, this, [this, answer] { take(answer); });
     return button;
 }

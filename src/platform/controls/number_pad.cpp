@@ -15,14 +15,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// 14 mm at 96 dots to the inch.
-constexpr QSize keySize{62, 54};
 constexpr int point = 10;
 
+/// The style sheet gives the keys of a pad their size.
 QPushButton* keyOf(const QString& caption)
 {
     auto* key = new QPushButton(caption);
-    key->setMinimumSize(keySize);
     key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     key->setFocusPolicy(Qt::NoFocus);
     key->setAutoDefault(false);

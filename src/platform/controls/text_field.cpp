@@ -233,9 +233,18 @@ bool MemoField::atLastLine() const
 
 QSize MemoField::sizeHint() const
 {
-    constexpr int lines = 3;
-    const int margins = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
-    return {fontMetrics().averageCharWidth() * 34, fontMetrics().lineSpacing() * lines + margins + 8};
+    return {fontMetrics().averageCharWidth() * 34, heightOf(3)};
+}
+
+QSize MemoField::minimumSizeHint() const
+{
+    return {fontMetrics().averageCharWidth() * 16, heightOf(2)};
+}
+
+int MemoField::heightOf(int lines) const
+{
+    constexpr int borderAndPadding = 8;
+    return lines * fontMetrics().lineSpacing() + 2 * static_cast<int>(document()->documentMargin()) + borderAndPadding;
 }
 
 void MemoField::focusInEvent(QFocusEvent* event)

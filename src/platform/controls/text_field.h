@@ -75,12 +75,14 @@ public:
     bool atLastLine() const;
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
 
 private:
     void cutToLength();
+    int heightOf(int lines) const;
 
     int m_maxLength;
 };

@@ -73,6 +73,9 @@ public:
         auto* name = new TextField(TextField::Kind::Capitals);
         name->setText(u"BENHAMOUDA"_s);
         panel->addField(u"Nom"_s, name);
+        panel->addField(u"Prénom"_s, new TextField(TextField::Kind::FirstCapital));
+        panel->addField(u"Adresse"_s, new TextField);
+        panel->nextColumn();
         panel->addFields(u"Date"_s, {new TextField(TextField::Kind::Date), iconButton(u"calendrier", u"Calendrier"_s)});
         panel->addField(u"Observations"_s, new MemoField);
         panel->addAccept(u"Image1", 0);
@@ -198,7 +201,7 @@ private:
         total->setText(u"1 008 675.00 "_s);
         auto* owed = valueLabel();
         owed->setText(u"-12 450.00 "_s);
-        setRole(owed, Role::Owed);
+        setOwed(owed, true);
         panel->addFields(u"Client"_s, {focused, iconButton(u"recherche", u"Chercher"_s)});
         panel->addField(u"Armateur"_s, owner);
         panel->addField(u"Date"_s, new TextField(TextField::Kind::Date));
@@ -229,6 +232,7 @@ private:
         panel->addWide(checked);
         panel->addWide(new QCheckBox(u"Simuler seulement"_s));
         auto* grey = new QCheckBox(u"Inactif"_s);
+        grey->setChecked(true);
         grey->setEnabled(false);
         panel->addWide(grey);
         auto* bar = new QProgressBar;
@@ -268,7 +272,7 @@ public:
             cell->setIconSize({40, 40});
             cell->setText(name);
             cell->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-            cell->setStyleSheet(u"font-size: 8pt; border: 0; background: transparent"_s);
+            cell->setMinimumSize(100, 76);
             grid->addWidget(cell, i / columns, i % columns);
         }
         auto* sizes = new QHBoxLayout;

@@ -67,3 +67,12 @@ TEST(Keys, OnlyUnaccentedLettersAreRaised)
     EXPECT_EQ(text::firstCapital(u""_s, 'm'), 'M');
     EXPECT_EQ(text::firstCapital(u"M"_s, 'e'), 'e');
 }
+
+TEST(Keys, APadHoldsTwelveCharactersAndOnePoint)
+{
+    EXPECT_EQ(text::padDisplay(u""_s, u'.'), u"."_s);
+    EXPECT_EQ(text::padDisplay(u"1.5"_s, u'.'), u"1.5"_s);
+    EXPECT_EQ(text::padDisplay(u"12345678901"_s, u'2'), u"123456789012"_s);
+    EXPECT_EQ(text::padDisplay(u"123456789012"_s, u'3'), u"123456789012"_s);
+    EXPECT_EQ(text::padDisplay(u"12"_s, u'x'), u"12"_s);
+}
