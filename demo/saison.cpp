@@ -99,7 +99,9 @@ private:
         const QString mot = titre.section(u' ', 0, 0);
         const QString suite = titre.section(u' ', 1).trimmed();
         fermerBordereau();
-        if (titre == u"catégories")
+        if (titre == u"mandataire")
+            m_section = [this](const QString& l) { lireMandataire(l); };
+        else if (titre == u"catégories")
             m_section = [this](const QString& l) { lireCategorie(l); };
         else if (titre == u"poissons")
             m_section = [this](const QString& l) { lirePoisson(l); };
@@ -129,6 +131,23 @@ private:
         while (lus.size() < nombre)
             lus << QString();
         return lus;
+    }
+
+    void lireMandataire(const QString& ligne)
+    {
+        Mandataire& m = saison.mandataire;
+        const std::pair<QString, QString*> cles[] = {{u"téléphone"_s, &m.tel},   {u"fax"_s, &m.fax},
+                                                     {u"R.C."_s, &m.RC},         {u"id. fiscale"_s, &m.Id_Fisc},
+                                                     {u"article"_s, &m.Article}, {u"compte"_s, &m.compte}};
+        const qsizetype egal = ligne.indexOf(u'=');
+        const QString lue = ligne.left(egal).trimmed();
+        for (const auto& [cle, valeur] : cles) {
+            if (egal > 0 && lue == cle) {
+                *valeur = ligne.mid(egal + 1).trimmed();
+                return;
+            }
+        }
+        throw Faute{u"« "_s + lue + u" » inconnu"_s};
     }
 
     void lireCategorie(const QString& ligne)

@@ -13,6 +13,12 @@
 /// reader hands on is checked, so that every reference finds its card.
 namespace talor::demo {
 
+/// The trader's own particulars, as invoices print them.
+struct Mandataire
+{
+    QString tel, fax, RC, Id_Fisc, Article, compte;
+};
+
 struct Poisson
 {
     int ordre;
@@ -69,6 +75,7 @@ struct Journee
 
 struct Saison
 {
+    Mandataire mandataire;
     QStringList categories;
     QList<Poisson> poissons;
     QList<Armateur> armateurs;

@@ -9,17 +9,6 @@ namespace talor {
 
 using namespace Qt::StringLiterals;
 
-void EcrireTextes(Exercice& exercice, const QList<std::pair<const char*, QString>>& textes)
-{
-    if (exercice.textes.moveFirst())
-        exercice.textes.edit();
-    else
-        exercice.textes.addNew();
-    for (const auto& [champ, texte] : textes)
-        exercice.textes.set(champ, texte);
-    exercice.textes.update();
-}
-
 Resultat<reports::Document> ComposerEtat(Exercice& exercice, const Etat& etat)
 {
     const QString modele = exercice.installation().chemin(etat.modele);

@@ -22,9 +22,6 @@ struct Etat
     QString titre; ///< of the preview window
 };
 
-/// Stores report texts, "ch4" to its text, in the one row of `textes`; the other fields keep what the last print left.
-void EcrireTextes(Exercice& exercice, const QList<std::pair<const char*, QString>>& textes);
-
 /// The common print sequence up to the pages: looks for the template, writes the heading, lets the print fill its
 /// tables, lays the report out. What is wrong with the template or the formula is a refusal.
 Resultat<reports::Document> ComposerEtat(Exercice& exercice, const Etat& etat);

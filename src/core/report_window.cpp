@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 int TestImprimante(QWidget* parent)
 {
-    if (services::printers::canPrint())
+    if (services::printers::available())
         return 0;
     montrer(parent, {u"Aucune imprimante installée"_s});
     return -1;

@@ -1,5 +1,6 @@
 #include "core/state.h"
 
+#include "core/report_texts.h"
 #include "core/schema.h"
 
 namespace talor {
@@ -100,14 +101,7 @@ void Exercice::LireParametres()
 
 void Exercice::EcrireEntete()
 {
-    if (textes.moveFirst())
-        textes.edit();
-    else
-        textes.addNew();
-    textes.set("ch1", identite(1));
-    textes.set("ch2", identite(2));
-    textes.set("ch3", identite(3));
-    textes.update();
+    ecrireTextes(*this, {{"ch1", identite(1)}, {"ch2", identite(2)}, {"ch3", identite(3)}});
 }
 
 } // namespace talor

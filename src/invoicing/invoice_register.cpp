@@ -2,6 +2,7 @@
 
 #include "core/helpers.h"
 #include "core/words.h"
+#include "sales/typed_dates.h"
 
 namespace talor {
 
@@ -11,17 +12,11 @@ namespace {
 
 const QString masqueMontant = u"# ### ###.00"_s;
 const QString masqueSomme = u"### ### ### ###"_s;
-constexpr int longueurDate = 10;
 const QString blanc = u" "_s;
 
 const QString listeFactures = u"select Factures!num as Num, Factures!ordre as ordre, date, Factures!Casiers as "
                               u"casiers, Total_HT, Consigne, Total, "
                               "Flag_R, Nom, Prenom, Tel from Factures, Clients where"_s;
-
-bool dateComplete(const QString& date)
-{
-    return date.size() == longueurDate && DateValide(date) == 0;
-}
 
 QString suiviDUnBlanc(const QString& texte)
 {

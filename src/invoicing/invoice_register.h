@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/report_texts.h"
 #include "sales/lookups.h"
-#include "sales/report_texts.h"
 
 namespace talor {
 

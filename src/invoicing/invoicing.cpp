@@ -1,6 +1,7 @@
 #include "invoicing/invoicing.h"
 
 #include "core/helpers.h"
+#include "sales/typed_dates.h"
 
 #include <charconv>
 
@@ -19,8 +20,6 @@ const QString lignes = u"Update  L_Vente  set Num_Facture = ? where Num_Facture 
 } // namespace requetesFacturation
 
 namespace {
-
-constexpr int longueurDate = 10;
 
 /// Open lines of a client, summed; a sum is null where no line holds a value.
 struct LignesOuvertes
@@ -113,7 +112,7 @@ Resultat<BilanFacturation> InvoiceAll(Exercice& exercice, const DemandeFacturati
                                       const ProgressionFacturation& progression)
 {
     const QString date = demande.date.trimmed();
-    if (date.size() != longueurDate || DateValide(date) != 0)
+    if (!dateComplete(date))
         return Refus{u"Date incorrecte"_s};
     store::Database& base = exercice.Base();
     const QList<qint64> clients = clientsAFacturer(base, demande);

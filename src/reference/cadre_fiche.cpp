@@ -112,7 +112,7 @@ CadreFiche::Editeur CadreFiche::creerListe(const Champ& champ)
     };
     const auto poser = [this, liste, choix = champ.choix](const QString& num) {
         liste->clear();
-        for (const EntreeListe& entree : choix(m_exercice))
+        for (const EntreeCombo& entree : choix(m_exercice))
             liste->addItem(entree.texte, QString::number(entree.num));
         liste->setProperty("num", num);
         liste->setCurrentIndex(liste->findData(num));

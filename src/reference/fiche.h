@@ -25,7 +25,7 @@ enum class Saisie
 };
 
 /// An entry of a field that is chosen from a list.
-struct EntreeListe
+struct EntreeCombo
 {
     qint64 num;
     QString texte;
@@ -41,7 +41,7 @@ struct Champ
     int longueur = 0; ///< characters that can be typed
     bool obligatoire = false;
     bool demi = false;                                       ///< takes half a line of the entry frame
-    std::function<QList<EntreeListe>(Exercice&)> choix = {}; ///< entries of a drop-down list
+    std::function<QList<EntreeCombo>(Exercice&)> choix = {}; ///< entries of a drop-down list
 };
 
 /// A column of the grid. The cell is built from the row of the table and its rank, counted from 1.

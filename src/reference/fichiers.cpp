@@ -30,7 +30,7 @@ void creerLignesDeTravail(Exercice& exercice, qint64 num, const Fiche& fiche)
 
 Fiche premierArmateur(Exercice& exercice)
 {
-    const QList<EntreeListe> armateurs = choixArmateurs(exercice);
+    const QList<EntreeCombo> armateurs = choixArmateurs(exercice);
     return armateurs.isEmpty() ? Fiche() : Fiche{{u"armateur"_s, QString::number(armateurs.first().num)}};
 }
 
@@ -166,9 +166,9 @@ QString nomArmateur(Exercice& exercice, qint64 num)
     return exercice.Armateurs.seek(num) ? nomComplet(exercice.Armateurs) : QString();
 }
 
-QList<EntreeListe> choixArmateurs(Exercice& exercice)
+QList<EntreeCombo> choixArmateurs(Exercice& exercice)
 {
-    QList<EntreeListe> choix;
+    QList<EntreeCombo> choix;
     store::Recordset liste = exercice.Base().openRecordset(u"select * from Armateurs order by ordre"_s);
     for (bool la = liste.moveFirst(); la; la = liste.moveNext())
         choix.append({liste.num(), nomComplet(liste)});

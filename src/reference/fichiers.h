@@ -13,6 +13,6 @@ const DescriptionFiche& fichierClients();
 /// "OULD ALI  Mourad": a shipowner as the boats show him; empty when he is gone.
 QString nomArmateur(Exercice& exercice, qint64 num);
 /// The shipowners in the order of their list.
-QList<EntreeListe> choixArmateurs(Exercice& exercice);
+QList<EntreeCombo> choixArmateurs(Exercice& exercice);
 
 } // namespace talor

@@ -238,7 +238,7 @@ Resultat<LigneAcquise> SaisieBordereau::SaveLine(const SaisieLigne& saisie)
     SumLines();
     ComputeTotals();
     return LigneAcquise{m_selection,
-                        {u"Ligne N° "_s + NombreAvecBlanc(m_selection + 1) + u" acquise"_s, u"TALOR"_s, Icone::Aucune}};
+                        {u"Ligne N° "_s + NombreAvecBlanc(m_selection + 1) + u" acquise"_s, QString(), Icone::Aucune}};
 }
 
 std::optional<Refus> SaisieBordereau::ajouterLigne(const SaisieLigne& saisie)

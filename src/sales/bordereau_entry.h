@@ -77,7 +77,8 @@ struct LigneFrais
     QString montant;
 };
 
-/// What recording a line leads to: its row in the grid, and the message that announces it.
+/// What recording a line leads to: its row in the grid, and the message that announces it, which has no title of its
+/// own.
 struct LigneAcquise
 {
     int rang;

@@ -1,7 +1,8 @@
 #include "sales/bordereau_register.h"
 
 #include "core/helpers.h"
-#include "sales/report_texts.h"
+#include "core/report_texts.h"
+#include "sales/typed_dates.h"
 
 namespace talor {
 
@@ -11,8 +12,6 @@ namespace {
 
 const QString masqueMontant = u"### ###.00"_s;
 const QString masquePrimes = u"## ###.00"_s;
-
-constexpr int longueurDate = 10;
 
 QString suiviDUnBlanc(const QString& texte)
 {
@@ -102,7 +101,7 @@ std::optional<Refus> RegistreBordereaux::filtrer(const FiltreBordereaux& filtre)
         critere = u" MM = "_s + QString::number(filtre.mois);
         titre1 = u"Bordereaux du mois de "_s + NomsMois[static_cast<size_t>(filtre.mois - 1)];
     } else {
-        if (DateValide(filtre.premiere) != 0 || DateValide(filtre.seconde) != 0)
+        if (!dateComplete(filtre.premiere) || !dateComplete(filtre.seconde))
             return Refus{u"Saisie incomplète"_s};
         if (EcartJours(filtre.premiere, filtre.seconde) < 0)
             return Refus{u"Dates inversées"_s};
@@ -151,7 +150,7 @@ Resultat<CadreBordereau> RegistreBordereaux::cadreReouverture(int rang) const
 Resultat<DemandeSaisie> RegistreBordereaux::demande(const CadreBordereau& cadre) const
 {
     const QString date = cadre.date.trimmed();
-    if (date.size() != longueurDate || DateValide(date) != 0)
+    if (!dateComplete(date))
         return Refus{u"Date incorrecte"_s, u"TALOR"_s, Icone::Avertissement};
     DemandeSaisie demande{cadre.mode, date, cadre.numero.trimmed(), cadre.num, cadre.Num_Chalutier, QString()};
     if (cadre.embarcation >= 0 && cadre.embarcation < m_embarcations.nombre()) {

@@ -96,7 +96,7 @@ Resultat<int> ListeChoix::choisirParOrdre(const QString& texte) const
 {
     const QString ordre = texte.trimmed();
     if (ordre.isEmpty())
-        return Refus{u"Numéro omis"_s, u"TALOR"_s, Icone::Aucune};
+        return Refus{u"Numéro omis"_s, QString(), Icone::Aucune};
     const auto trouve = m_rangsOrdre.constFind(ordre);
     if (trouve == m_rangsOrdre.cend())
         return ordreIntrouvable;

@@ -2,6 +2,7 @@
 
 #include "core/helpers.h"
 #include "core/state.h"
+#include "platform/controls/icons.h"
 #include "platform/controls/look.h"
 #include "platform/controls/named.h"
 #include "platform/services/clock.h"
@@ -19,7 +20,8 @@ using controls::named;
 
 namespace {
 
-constexpr int hauteurAvecPort = 190;
+constexpr double largeurSurHauteur = 1600.0 / 264; // of the drawing
+constexpr int hauteurMax = 330;
 
 /// "Samedi 6 Juin 2026"; the first of a month is ordinal.
 QString dateEnToutesLettres(QDate jour)
@@ -28,6 +30,20 @@ QString dateEnToutesLettres(QDate jour)
     const QString& mois = NomsMois[static_cast<size_t>(jour.month() - 1)];
     const QString quantieme = jour.day() == 1 ? u"1er"_s : QString::number(jour.day());
     return u"%1 %2 %3 %4"_s.arg(nom, quantieme, mois).arg(jour.year());
+}
+
+/// A sheet under texts, so that they read on any part of the drawing.
+void feuille(QHBoxLayout* rangee, Qt::Alignment cote, std::initializer_list<QLabel*> lignes)
+{
+    auto* cadre = new QFrame;
+    cadre->setObjectName(u"Feuille"_s);
+    cadre->setStyleSheet(u"#Feuille { background: rgba(255, 255, 255, 190); border-radius: 10px; }"_s);
+    auto* colonne = new QVBoxLayout(cadre);
+    colonne->setContentsMargins(14, 8, 14, 8);
+    colonne->setSpacing(2);
+    for (QLabel* label : lignes)
+        colonne->addWidget(label, 0, cote);
+    rangee->addWidget(cadre, 0, Qt::AlignTop);
 }
 
 QLabel* ligne(qreal corps, QFont::Weight graisse, QColor encre)
@@ -51,29 +67,16 @@ Entete::Entete(QWidget* parent)
     , m_ligne(named(ligne(1.2, QFont::Normal, controls::colour::navy), u"Label1", 1))
     , m_annee(named(ligne(1.5, QFont::Bold, controls::colour::navy), u"Label1", 2))
     , m_date(named(ligne(1.0, QFont::Normal, controls::colour::navy), u"LabelDate"))
-    , m_guide(named(new QPushButton(u"Guide"_s), u"SSCommand1"))
+    , m_guide(named(new QPushButton(controls::icon(u"pdf"), u"Guide"_s), u"SSCommand1"))
     , m_port(std::make_unique<QSvgRenderer>(u":/talor/port.svg"_s))
 {
-    m_port->setAspectRatioMode(Qt::KeepAspectRatioByExpanding);
     m_guide->setToolTip(u"Ouvrir le guide de l'utilisateur (PDF)"_s);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-
-    auto* gauche = new QVBoxLayout;
-    gauche->setSpacing(2);
-    gauche->addWidget(m_nom);
-    gauche->addWidget(m_ligne);
-    gauche->addStretch();
-    auto* droite = new QVBoxLayout;
-    droite->setSpacing(2);
-    droite->addWidget(m_annee, 0, Qt::AlignRight);
-    droite->addWidget(m_date, 0, Qt::AlignRight);
-    droite->addStretch();
     auto* rangee = new QHBoxLayout(this);
-    rangee->setContentsMargins(24, 14, 24, 14);
-    rangee->setSpacing(24);
-    rangee->addLayout(gauche);
+    rangee->setContentsMargins(24, 12, 24, 12);
+    rangee->setSpacing(12);
+    feuille(rangee, Qt::AlignLeft, {m_nom, m_ligne});
     rangee->addStretch();
-    rangee->addLayout(droite);
+    feuille(rangee, Qt::AlignRight, {m_annee, m_date});
     rangee->addWidget(m_guide, 0, Qt::AlignTop);
 }
 
@@ -90,23 +93,33 @@ void Entete::montrer(const Exercice& exercice)
 void Entete::setPortMontre(bool montre)
 {
     m_portMontre = montre;
-    updateGeometry();
+    ajusterHauteur();
     update();
 }
 
-QSize Entete::sizeHint() const
+/// With the port, the head keeps the proportions of the drawing; its texts always fit.
+void Entete::ajusterHauteur()
 {
-    const QSize textes = QWidget::sizeHint();
-    return m_portMontre ? textes.expandedTo(QSize(0, hauteurAvecPort)) : textes;
+    const int textes = layout()->totalMinimumSize().height();
+    setFixedHeight(m_portMontre ? qBound(textes, static_cast<int>(width() / largeurSurHauteur), hauteurMax) : textes);
+}
+
+void Entete::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    ajusterHauteur();
 }
 
 void Entete::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    if (m_portMontre)
-        m_port->render(&painter, rect());
-    else
+    if (!m_portMontre) {
         painter.fillRect(rect(), controls::colour::blueLight);
+        return;
+    }
+    // The drawing covers the width; a head that is lower than it shows its upper part.
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_port->render(&painter, QRectF(0, 0, width(), width() / largeurSurHauteur));
 }
 
 } // namespace talor

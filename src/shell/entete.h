@@ -23,15 +23,17 @@ public:
     ~Entete() override;
 
     void montrer(const Exercice& exercice);
+    /// Without the port the head is only as high as its texts.
     void setPortMontre(bool montre);
     QPushButton* guide() const { return m_guide; }
 
-    QSize sizeHint() const override;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void ajusterHauteur();
+
     QLabel* m_nom;
     QLabel* m_ligne;
     QLabel* m_annee;

@@ -1,17 +1,18 @@
 #include "shell/form1.h"
 
-#include "core/message_window.h"
+#include "core/montrer.h"
 #include "platform/controls/message.h"
 #include "platform/controls/named.h"
 #include "shell/barre_menus.h"
 #include "shell/entete.h"
+#include "shell/image_laterale.h"
 #include "shell/menu.h"
 #include "shell/panneaux.h"
 #include "shell/startup.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QLabel>
+#include <QPushButton>
 #include <QStackedWidget>
 
 namespace talor {
@@ -21,19 +22,9 @@ using controls::named;
 
 namespace {
 
+constexpr int hauteurAvecPort = 600;
+
 const QStringList entreesResolution = {u"R0"_s, u"R1"_s, u"R2"_s};
-
-/// A side picture takes at most this part of the window's width.
-constexpr double partImage = 0.2;
-constexpr int hauteurImageMax = 480;
-
-QLabel* cadreImage(int rang)
-{
-    auto* cadre = named(new QLabel, u"Image2", rang);
-    cadre->setAlignment(Qt::AlignCenter);
-    cadre->hide();
-    return cadre;
-}
 
 } // namespace
 
@@ -42,8 +33,8 @@ Form1::Form1(Exercice& exercice)
     , m_resolution(lireResolution(exercice.installation()))
     , m_menus(new BarreMenus(this))
     , m_entete(new Entete)
-    , m_gauche(cadreImage(0))
-    , m_droite(cadreImage(1))
+    , m_gauche(named(new ImageLaterale, u"Image2", 0))
+    , m_droite(named(new ImageLaterale, u"Image2", 1))
     , m_pages(new QStackedWidget)
     , m_raccourcis(new PanneauRaccourcis)
     , m_facturation(new PanneauFacturation)
@@ -55,7 +46,7 @@ Form1::Form1(Exercice& exercice)
     m_pages->addWidget(m_facturation);
 
     auto* milieu = new QHBoxLayout;
-    milieu->setContentsMargins(24, 20, 24, 24);
+    milieu->setContentsMargins(24, 16, 24, 20);
     milieu->setSpacing(20);
     milieu->addWidget(m_gauche);
     milieu->addWidget(m_pages, 1);
@@ -76,6 +67,7 @@ Form1::Form1(Exercice& exercice)
     brancherLesSiennes();
     m_menus->cocher(entreesResolution[static_cast<int>(m_resolution)]);
     actualiser();
+    setTabOrder(m_facturation, m_entete->guide());
 }
 
 Form1::~Form1() = default;
@@ -130,36 +122,35 @@ void Form1::actualiserMenus()
 
 void Form1::actualiserImages()
 {
-    const QSize place(static_cast<int>(width() * partImage), hauteurImageMax);
-    const auto montrerImage = [&](QLabel* cadre, const QString& cote) {
-        const auto fichier = imageLaterale(m_exercice.installation(), cote);
-        const QPixmap image = fichier ? QPixmap(*fichier) : QPixmap();
-        cadre->setVisible(!image.isNull());
-        if (image.isNull())
-            return false;
-        const qreal echelle = devicePixelRatioF();
-        QPixmap reduite = image.scaled(place * echelle, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        reduite.setDevicePixelRatio(echelle);
-        cadre->setPixmap(reduite);
-        return true;
-    };
-    const bool gauche = montrerImage(m_gauche, u"Gauche"_s);
-    const bool droite = montrerImage(m_droite, u"Droit"_s);
-    m_entete->setPortMontre(!gauche && !droite);
+    m_gauche->charger(imageLaterale(m_exercice.installation(), u"Gauche"_s));
+    m_droite->charger(imageLaterale(m_exercice.installation(), u"Droit"_s));
+    montrerPort();
+}
+
+/// The drawn port stands where the trader has no pictures of his own and the window has room for it.
+void Form1::montrerPort()
+{
+    m_entete->setPortMontre(m_gauche->estVide() && m_droite->estVide() && height() >= hauteurAvecPort);
 }
 
 void Form1::ouvrirFacturation()
 {
     m_menus->setEnabled(false);
     m_pages->setCurrentWidget(m_facturation);
-    m_facturation->setFocus();
+    m_facturation->prendreFocus();
 }
 
 void Form1::fermerFacturation()
 {
     m_pages->setCurrentWidget(m_raccourcis);
     m_menus->setEnabled(true);
-    m_raccourcis->setFocus();
+    m_raccourcis->prendreFocus();
+}
+
+void Form1::terminer()
+{
+    m_exercice.FermerBase();
+    QCoreApplication::exit(1);
 }
 
 void Form1::closeEvent(QCloseEvent* event)
@@ -173,18 +164,24 @@ void Form1::closeEvent(QCloseEvent* event)
     event->accept();
 }
 
+void Form1::showEvent(QShowEvent* event)
+{
+    QMainWindow::showEvent(event);
+    m_raccourcis->prendreFocus();
+}
+
+void Form1::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    montrerPort();
+}
+
 void Form1::changeEvent(QEvent* event)
 {
     QMainWindow::changeEvent(event);
     // A program left open overnight greets the morning with the right day.
     if (event->type() == QEvent::ActivationChange && isActiveWindow())
         m_entete->montrer(m_exercice);
-}
-
-void Form1::resizeEvent(QResizeEvent* event)
-{
-    QMainWindow::resizeEvent(event);
-    actualiserImages();
 }
 
 } // namespace talor

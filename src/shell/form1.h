@@ -7,13 +7,13 @@
 
 #include <functional>
 
-class QLabel;
 class QStackedWidget;
 
 namespace talor {
 
 class BarreMenus;
 class Entete;
+class ImageLaterale;
 class PanneauFacturation;
 class PanneauRaccourcis;
 
@@ -41,10 +41,14 @@ public:
     /// Applies the state of the exercise in view: entries, shortcuts, heading, side pictures.
     void actualiser();
 
+    /// Ends the process after a failure that leaves the exercise closed: no question, no copy into Archives.
+    void terminer();
+
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     void brancherLesSiennes();
@@ -52,6 +56,7 @@ private:
     void fermerFacturation();
     void actualiserMenus();
     void actualiserImages();
+    void montrerPort();
     bool disponible(const QString& entree) const { return m_fonctions.contains(entree); }
 
     Exercice& m_exercice;
@@ -59,8 +64,8 @@ private:
     Resolution m_resolution;
     BarreMenus* m_menus;
     Entete* m_entete;
-    QLabel* m_gauche;
-    QLabel* m_droite;
+    ImageLaterale* m_gauche;
+    ImageLaterale* m_droite;
     QStackedWidget* m_pages;
     PanneauRaccourcis* m_raccourcis;
     PanneauFacturation* m_facturation;

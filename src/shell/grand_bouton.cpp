@@ -1,6 +1,7 @@
 #include "shell/grand_bouton.h"
 
 #include "platform/controls/icons.h"
+#include "platform/controls/labels.h"
 #include "platform/controls/look.h"
 
 #include <QBoxLayout>
@@ -14,30 +15,25 @@ namespace colour = controls::colour;
 
 namespace {
 
-constexpr int coteIcone = 44;
-constexpr int marge = 12;
+constexpr int iconeMin = 28;
+constexpr int iconeMax = 56;
+constexpr int marge = 14;
+constexpr int halo = 10;            ///< from a picture to the edge of the disc behind it
+constexpr int hauteurBas = 44;      ///< the lowest button
+constexpr int hauteurEmpilee = 112; ///< from which the picture stands over the caption
 constexpr qreal rayon = 10;
-
-QLabel* etiquette(QWidget* parent, const QString& texte, qreal corps, QFont::Weight graisse)
-{
-    auto* label = new QLabel(texte, parent);
-    QFont police = label->font();
-    police.setPointSizeF(police.pointSizeF() * corps);
-    police.setWeight(graisse);
-    label->setFont(police);
-    label->setAlignment(Qt::AlignCenter);
-    label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    return label;
-}
 
 } // namespace
 
-GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKeySequence& touche, QWidget* parent)
+GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKeySequence& touche,
+                         Disposition disposition, QWidget* parent)
     : QAbstractButton(parent)
     , m_icone(controls::icon(icone))
+    , m_disposition(disposition)
     , m_image(new QLabel(this))
-    , m_libelle(etiquette(this, libelle, 1.15, QFont::DemiBold))
-    , m_touche(etiquette(this, touche.toString(QKeySequence::NativeText), 0.8, QFont::Normal))
+    , m_libelle(new QLabel(libelle, this))
+    , m_touche(controls::hintLabel(touche.toString(QKeySequence::NativeText)))
+    , m_rangee(new QBoxLayout(QBoxLayout::LeftToRight, this))
     , m_fondRepos(colour::paper)
     , m_fondAllume(colour::blueLight)
 {
@@ -47,20 +43,20 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setShortcut(touche);
 
-    m_image->setAlignment(Qt::AlignCenter);
-    m_image->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_touche->setAlignment(Qt::AlignRight | Qt::AlignTop);
+    QFont police = m_libelle->font();
+    police.setPointSizeF(police.pointSizeF() * 1.15);
+    police.setWeight(QFont::DemiBold);
+    m_libelle->setFont(police);
+    m_touche->setParent(this);
+    for (QLabel* label : {m_image, m_libelle, m_touche})
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
 
-    auto* colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(marge, marge / 2, marge, marge);
-    colonne->setSpacing(4);
-    colonne->addWidget(m_touche);
-    colonne->addStretch();
-    colonne->addWidget(m_image);
-    colonne->addSpacing(4);
-    colonne->addWidget(m_libelle);
-    colonne->addStretch();
-    montrerIcone();
+    m_rangee->addStretch(1);
+    m_rangee->addWidget(m_image);
+    m_rangee->addSpacing(halo + 4);
+    m_rangee->addWidget(m_libelle);
+    m_rangee->addStretch(1);
+    montrerIcone(iconeMin);
 }
 
 void GrandBouton::setFonds(QColor repos, QColor allume)
@@ -78,21 +74,37 @@ void GrandBouton::allumer(bool allume)
 
 QSize GrandBouton::sizeHint() const
 {
-    return minimumSizeHint() + QSize(40, 30);
+    return minimumSizeHint();
 }
 
 QSize GrandBouton::minimumSizeHint() const
 {
-    return layout()->totalMinimumSize() + QSize(0, 2);
+    const int largeurTouche = m_touche->sizeHint().width() + marge;
+    return {2 * (marge + halo) + iconeMin + m_libelle->sizeHint().width() + largeurTouche,
+            qMax(hauteurBas, m_libelle->sizeHint().height() + marge)};
 }
 
-void GrandBouton::montrerIcone()
+/// Puts the picture over the caption or beside it, and the key into the corner.
+void GrandBouton::disposer()
+{
+    const bool empile = m_disposition == Disposition::SelonLaPlace && height() >= hauteurEmpilee;
+    m_rangee->setDirection(empile ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    m_rangee->setAlignment(m_image, empile ? Qt::AlignHCenter : Qt::AlignVCenter);
+    m_rangee->setAlignment(m_libelle, empile ? Qt::AlignHCenter : Qt::AlignVCenter);
+    m_rangee->setContentsMargins(empile ? QMargins(marge, marge, marge, 0) : QMargins(marge + halo, 0, marge, 0));
+    // Captions of a column begin at one place.
+    m_rangee->setStretch(0, m_disposition == Disposition::EnLigne ? 0 : 1);
+    montrerIcone(empile ? qBound(iconeMin, height() / 4, iconeMax) : iconeMin);
+
+    m_touche->adjustSize();
+    const int y = empile ? marge / 2 : (height() - m_touche->height()) / 2;
+    m_touche->move(width() - m_touche->width() - marge, y);
+}
+
+void GrandBouton::montrerIcone(int cote)
 {
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    m_image->setPixmap(m_icone.pixmap(QSize(coteIcone, coteIcone), devicePixelRatioF(), mode));
-    QPalette palette = m_touche->palette();
-    palette.setColor(QPalette::WindowText, isEnabled() ? colour::muted : colour::disabled);
-    m_touche->setPalette(palette);
+    m_image->setPixmap(m_icone.pixmap(QSize(cote, cote), devicePixelRatioF(), mode));
 }
 
 void GrandBouton::paintEvent(QPaintEvent*)
@@ -101,39 +113,37 @@ void GrandBouton::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     const bool focus = hasFocus();
     const qreal trait = focus ? 2 : 1;
-    const QRectF cadre = QRectF(rect()).adjusted(trait, trait, -trait, -trait);
-    QColor fondMontre = isDown() ? colour::sandDeep : fond();
+    QColor surface = isDown() ? colour::sandDeep : fond();
     if (!isEnabled())
-        fondMontre = colour::sand;
-    painter.setBrush(fondMontre);
+        surface = colour::sand;
+    painter.setBrush(surface);
     painter.setPen(QPen(focus ? colour::focus : colour::line, trait));
-    painter.drawRoundedRect(cadre, rayon, rayon);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(trait, trait, -trait, -trait), rayon, rayon);
+
+    const QRectF image = m_image->geometry();
+    const qreal rayonDisque = image.height() / 2 + halo;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(!isEnabled() ? colour::sand : m_allume ? colour::paper : colour::blueLight);
+    painter.drawEllipse(image.center(), rayonDisque, rayonDisque);
+}
+
+void GrandBouton::resizeEvent(QResizeEvent* event)
+{
+    QAbstractButton::resizeEvent(event);
+    disposer();
 }
 
 void GrandBouton::enterEvent(QEnterEvent* event)
 {
     QAbstractButton::enterEvent(event);
     allumer(true);
-    emit designe();
+    emit survole();
 }
 
 void GrandBouton::leaveEvent(QEvent* event)
 {
     QAbstractButton::leaveEvent(event);
-    allumer(hasFocus());
-}
-
-void GrandBouton::focusInEvent(QFocusEvent* event)
-{
-    QAbstractButton::focusInEvent(event);
-    allumer(true);
-    emit designe();
-}
-
-void GrandBouton::focusOutEvent(QFocusEvent* event)
-{
-    QAbstractButton::focusOutEvent(event);
-    allumer(underMouse());
+    allumer(false);
 }
 
 void GrandBouton::keyPressEvent(QKeyEvent* event)
@@ -148,7 +158,7 @@ void GrandBouton::changeEvent(QEvent* event)
 {
     QAbstractButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange)
-        montrerIcone();
+        disposer();
 }
 
 } // namespace talor

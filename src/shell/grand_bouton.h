@@ -2,18 +2,26 @@
 
 #include <QAbstractButton>
 
+class QBoxLayout;
 class QLabel;
 
 namespace talor {
 
-/// A large button: a picture over its caption, with the key that presses it in the corner. Enter presses it as Space
-/// does. It is lit while the pointer or the focus is on it.
+/// A large button: a picture and its caption, with the key that presses it in the corner. Enter presses it as Space
+/// does. It is lit while the pointer is on it; the focus draws a ring around it.
 class GrandBouton : public QAbstractButton
 {
     Q_OBJECT
 
 public:
-    GrandBouton(const QString& icone, const QString& libelle, const QKeySequence& touche, QWidget* parent = nullptr);
+    enum class Disposition
+    {
+        SelonLaPlace, ///< the picture over the caption, or beside it where the button is low
+        EnLigne       ///< always beside it
+    };
+
+    GrandBouton(const QString& icone, const QString& libelle, const QKeySequence& touche, Disposition disposition,
+                QWidget* parent = nullptr);
 
     /// The caption, a label of its own so that it can bear a name.
     QLabel* libelle() const { return m_libelle; }
@@ -27,26 +35,27 @@ public:
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The pointer or the focus came to the button.
-    void designe();
+    /// The pointer came to the button.
+    void survole();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
-    void montrerIcone();
-    QSize taille(int hauteurs) const;
+    void disposer();
+    void montrerIcone(int cote);
 
     QIcon m_icone;
+    Disposition m_disposition;
     QLabel* m_image;
     QLabel* m_libelle;
     QLabel* m_touche;
+    QBoxLayout* m_rangee;
     QColor m_fondRepos;
     QColor m_fondAllume;
     bool m_allume = false;

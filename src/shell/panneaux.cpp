@@ -1,6 +1,6 @@
 #include "shell/panneaux.h"
 
-#include "platform/controls/command_bar.h"
+#include "platform/controls/icons.h"
 #include "platform/controls/labels.h"
 #include "platform/controls/look.h"
 #include "platform/controls/named.h"
@@ -10,7 +10,10 @@
 #include <QBoxLayout>
 #include <QButtonGroup>
 #include <QGridLayout>
+#include <QPushButton>
 #include <QShortcut>
+
+#include <algorithm>
 
 namespace talor {
 
@@ -23,24 +26,30 @@ namespace {
 constexpr QColor fondRepos(0xF0, 0xF0, 0xF0);
 constexpr QColor fondAllume(0xFF, 0xFF, 0x00);
 
-/// Lays the buttons out in a grid of so many columns, with the arrow keys between them and F1, F2... on them.
-template<class Panneau, size_t n>
-QList<GrandBouton*> poserBoutons(Panneau* panneau, QGridLayout* grille, const std::array<Raccourci, n>& raccourcis,
-                                 int colonnes)
+constexpr int ecart = 14;
+constexpr int colonnesRaccourcis = 3;
+constexpr int lignesFacturation = 4;
+
+QKeySequence touche(int rang)
 {
-    auto* groupe = new QButtonGroup(panneau); // the arrows move within a group
+    return QKeySequence(Qt::Key_F1 + rang);
+}
+
+/// Lets the arrow keys move between the buttons by their places.
+void grouper(QWidget* panneau, const QList<GrandBouton*>& boutons)
+{
+    auto* groupe = new QButtonGroup(panneau);
     groupe->setExclusive(false);
-    QList<GrandBouton*> boutons;
-    for (const Raccourci& raccourci : raccourcis) {
-        const auto rang = static_cast<int>(boutons.size());
-        auto* bouton = new GrandBouton(raccourci.icone, raccourci.libelle, QKeySequence(Qt::Key_F1 + rang), panneau);
-        QObject::connect(bouton, &GrandBouton::clicked, panneau,
-                         [panneau, entree = raccourci.entree] { emit panneau->choisi(entree); });
-        groupe->addButton(bouton, rang);
-        grille->addWidget(bouton, rang / colonnes, rang % colonnes);
-        boutons.append(bouton);
-    }
-    return boutons;
+    for (GrandBouton* bouton : boutons)
+        groupe->addButton(bouton);
+}
+
+void donnerFocus(const QList<GrandBouton*>& boutons)
+{
+    const auto libre =
+        std::ranges::find_if(boutons, [](const GrandBouton* b) { return b->isVisible() && b->isEnabled(); });
+    if (libre != boutons.end())
+        (*libre)->setFocus();
 }
 
 } // namespace
@@ -50,12 +59,24 @@ PanneauRaccourcis::PanneauRaccourcis(QWidget* parent)
 {
     auto* grille = new QGridLayout(this);
     grille->setContentsMargins({});
-    grille->setSpacing(14);
-    m_boutons = poserBoutons(this, grille, raccourcis(), 3);
-    for (int i = 0; i < m_boutons.size(); ++i) {
-        named(m_boutons[i], u"Image5", i);
-        named(m_boutons[i]->libelle(), u"Label2", i);
+    grille->setSpacing(ecart);
+    for (const Raccourci& raccourci : raccourcis()) {
+        const auto rang = static_cast<int>(m_boutons.size());
+        auto* bouton = named(
+            new GrandBouton(raccourci.icone, raccourci.libelle, touche(rang), GrandBouton::Disposition::SelonLaPlace),
+            u"Image5", rang);
+        named(bouton->libelle(), u"Label2", rang);
+        connect(bouton, &GrandBouton::clicked, this, [this, entree = raccourci.entree] { emit choisi(entree); });
+        grille->addWidget(bouton, rang / colonnesRaccourcis, rang % colonnesRaccourcis);
+        grille->setColumnStretch(rang % colonnesRaccourcis, 1);
+        m_boutons.append(bouton);
     }
+    grouper(this, m_boutons);
+}
+
+void PanneauRaccourcis::prendreFocus()
+{
+    donnerFocus(m_boutons);
 }
 
 void PanneauRaccourcis::actualiser(const Disponible& disponible, bool exerciceCourant)
@@ -69,32 +90,43 @@ void PanneauRaccourcis::actualiser(const Disponible& disponible, bool exerciceCo
 
 PanneauFacturation::PanneauFacturation(QWidget* parent)
     : QFrame(parent)
-    , m_fermer(named(new controls::CommandButton(u"fermer", u"Fermer"_s), u"Image27"))
+    , m_fermer(named(new QPushButton(controls::icon(u"fermer"), u"Fermer"_s), u"Image27"))
 {
     named(this, u"SSPanel1");
     controls::setRole(this, controls::Role::Panel);
 
-    auto* titre = new QHBoxLayout;
-    titre->addWidget(controls::sectionLabel(u"Facturation"_s));
-    titre->addStretch();
-    titre->addWidget(m_fermer);
-    auto* grille = new QGridLayout;
-    grille->setSpacing(14);
-    m_boutons = poserBoutons(this, grille, boutonsFacturation(), 4);
-    auto* colonne = new QVBoxLayout(this);
-    colonne->setContentsMargins(20, 14, 20, 20);
-    colonne->setSpacing(12);
-    colonne->addLayout(titre);
-    colonne->addLayout(grille, 1);
-
-    for (int i = 0; i < m_boutons.size(); ++i) {
-        GrandBouton* bouton = named(m_boutons[i], u"SSPanel2", i);
-        bouton->setFonds(fondRepos, fondAllume);
-        connect(bouton, &GrandBouton::designe, this, [this, bouton] { allumerSeul(bouton); });
+    auto* grille = new QGridLayout(this);
+    grille->setContentsMargins(20, 12, 20, 16);
+    grille->setHorizontalSpacing(ecart);
+    grille->setVerticalSpacing(10);
+    grille->addWidget(controls::sectionLabel(u"Facturation"_s), 0, 0);
+    grille->addWidget(m_fermer, 0, 1, Qt::AlignRight);
+    for (int i = 0; i < static_cast<int>(boutonsFacturation().size()); ++i) {
+        grille->addWidget(ajouterBouton(i), 1 + i % lignesFacturation, i / lignesFacturation);
+        grille->setColumnStretch(i / lignesFacturation, 1);
     }
+    grouper(this, m_boutons);
     setTabOrder(m_boutons.last(), m_fermer);
     connect(m_fermer, &QAbstractButton::clicked, this, &PanneauFacturation::ferme);
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, m_fermer, &QAbstractButton::click);
+}
+
+GrandBouton* PanneauFacturation::ajouterBouton(int rang)
+{
+    const Raccourci& fonction = boutonsFacturation()[static_cast<size_t>(rang)];
+    auto* bouton =
+        named(new GrandBouton(fonction.icone, fonction.libelle, touche(rang), GrandBouton::Disposition::EnLigne),
+              u"SSPanel2", rang);
+    bouton->setFonds(fondRepos, fondAllume);
+    connect(bouton, &GrandBouton::survole, this, [this, bouton] { allumerSeul(bouton); });
+    connect(bouton, &GrandBouton::clicked, this, [this, entree = fonction.entree] { emit choisi(entree); });
+    m_boutons.append(bouton);
+    return bouton;
+}
+
+void PanneauFacturation::prendreFocus()
+{
+    donnerFocus(m_boutons);
 }
 
 void PanneauFacturation::actualiser(const Disponible& disponible)

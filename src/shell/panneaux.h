@@ -24,6 +24,8 @@ public:
 
     /// Disables the shortcuts of what is not available, and hides those that an old exercise does not have.
     void actualiser(const Disponible& disponible, bool exerciceCourant);
+    /// Gives the focus to the first shortcut that can be pressed.
+    void prendreFocus();
 
 signals:
     void choisi(const QString& entree);
@@ -32,8 +34,8 @@ private:
     QList<GrandBouton*> m_boutons;
 };
 
-/// `SSPanel1`, the invoices and their listings: eight buttons `SSPanel2`, of which one is lit, and `Image27` that
-/// closes it, as Escape does.
+/// `SSPanel1`, the invoices on its left and the listings on its right: eight buttons `SSPanel2`, of which one is lit,
+/// and `Image27` that closes it, as Escape does.
 class PanneauFacturation : public QFrame
 {
     Q_OBJECT
@@ -42,12 +44,14 @@ public:
     explicit PanneauFacturation(QWidget* parent = nullptr);
 
     void actualiser(const Disponible& disponible);
+    void prendreFocus();
 
 signals:
     void choisi(const QString& entree);
     void ferme();
 
 private:
+    GrandBouton* ajouterBouton(int rang);
     void allumerSeul(const GrandBouton* designe);
 
     QList<GrandBouton*> m_boutons;

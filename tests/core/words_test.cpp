@@ -100,11 +100,7 @@ TEST(MontantEnLettres, suit_ses_regles_de_zero_aux_centaines_de_millions)
         {-3, "MOINS TROIS DINARS"},
     };
     for (const Cas& c : cas)
-<<<<<<< HEAD
         EXPECT_EQ(motsNus(c.montant), QString::fromUtf8(c.mots)) << c.montant;
-=======
-        EXPECT_EQ(motsNus(c.montant), QString::fromUtf16(c.mots)) << c.montant;
->>>>>>> sales
 }
 
 TEST(MontantEnLettres, chaque_centime_se_lit_comme_il_est_ecrit)
@@ -133,11 +129,7 @@ TEST(MontantEnLettres, le_pluriel_de_million_regarde_le_dernier_chiffre_ecrit)
         {101e9, "CENT UN MILLIARD DINAR"},
     };
     for (const Cas& c : cas)
-<<<<<<< HEAD
         EXPECT_EQ(motsNus(c.montant), QString::fromUtf8(c.mots)) << c.montant;
-=======
-        EXPECT_EQ(motsNus(c.montant), QString::fromUtf16(c.mots)) << c.montant;
->>>>>>> sales
 }
 
 TEST(MontantEnLettres, le_pluriel_de_dinar_regarde_les_trois_derniers_chiffres)

@@ -25,6 +25,8 @@ Resultat<Saison> lireTexte(const QString& texte)
 }
 
 const QString petiteSaison = uR"(# une matinée
+[mandataire]
+  R.C. = 02 A 01 = X
 [catégories]
   Mandataires
 [poissons]
@@ -53,6 +55,7 @@ TEST(Saison, se_lit_comme_elle_est_ecrite)
     ASSERT_TRUE(lue) << lue.refus().texte.toStdString();
 
     EXPECT_EQ(lue->annee(), 2026);
+    EXPECT_EQ(lue->mandataire.RC, u"02 A 01 = X"_s);
     EXPECT_EQ(lue->embarcations[0].armateur, 0);
     EXPECT_EQ(lue->armateurs[0].ville, u"Ténès"_s);
     EXPECT_EQ(lue->clients[0].nom, u"D'ALMEIDA"_s);
@@ -82,31 +85,32 @@ TEST(Saison, une_faute_est_signalee_avec_sa_ligne)
         QString dit;
     };
     const Cas cas[] = {
-        {u"  1 ; Sardine"_s, u"  x ; Sardine"_s, 5, u"n'est pas un nombre"_s},
-        {u"  1 ; Sardine"_s, u"    ; Sardine"_s, 5, u"N° omis"_s},
-        {u"  7 ; Rouget de roche\n"_s, u"  1 ; Rouget de roche\n"_s, 6, u"répété"_s},
-        {u"  BENSALEM ; Mourad"_s, u"  BENSALEM ; "_s, 8, u"prénom"_s},
-        {u"; BENSALEM ; Ténès ;"_s, u"; BENSALAM ; Ténès ;"_s, 10, u"« BENSALAM » inconnu"_s},
-        {u"; Mandataires ;"_s, u"; Voyageurs ;"_s, 12, u"« Voyageurs » inconnue"_s},
-        {u"0550000231"_s, u"0550000231 ; ; ; ; trop"_s, 12, u"11 champs"_s},
-        {u"[journée 02/11/2026]"_s, u"[journée 31/02/2026]"_s, 13, u"date"_s},
-        {u"[journée 02/11/2026]"_s, u"[journée 02/11/2026"_s, 13, u"crochet"_s},
-        {u"[journée 02/11/2026]"_s, u"# rien"_s, 14, u"hors d'une journée"_s},
-        {u"[bordereau L'Espérance]"_s, u"[bordereau Inconnu]"_s, 14, u"« Inconnu » inconnue"_s},
-        {u"[bordereau L'Espérance]"_s, u"# rien"_s, 15, u"un bordereau est attendu"_s},
-        {u"Glace 9 600.50"_s, u"Glace"_s, 15, u"un libellé et un montant"_s},
-        {u"  primes ="_s, u"  prime ="_s, 16, u"« prime » inconnu"_s},
-        {u"= 12.5"_s, u"= 100"_s, 17, u"moins de 100"_s},
-        {u"  3 D'ALM ;"_s, u"  4 D'ALM ;"_s, 18, u"client N° 4 inconnu"_s},
-        {u"  3 D'ALM ;"_s, u"  3 TOUMI ;"_s, 18, u"est « D'ALMEIDA »"_s},
-        {u"; Rouget de roche ; 2 "_s, u"; Rougette ; 2 "_s, 18, u"« Rougette » inconnu"_s},
-        {u"; 2 ; 18.5 ;"_s, u"; 2.5 ; 18.5 ;"_s, 18, u"n'est pas un nombre entier"_s},
-        {u"; 2 ; 18.5 ;"_s, u"; 2 ; -18.5 ;"_s, 18, u"n'est pas un nombre"_s},
-        {u"; 2 ; 18.5 ;"_s, u"; ; ;"_s, 18, u"ni cageots ni poids"_s},
-        {u"; 18.5 ; 2 200"_s, u"; 18.5"_s, 18, u"P.U. omis"_s},
-        {u"; 18.5 ; 2 200"_s, u"; 18.5 ; 2 200 ; 9"_s, 18, u"6 champs"_s},
+        {u"  R.C. ="_s, u"  RC ="_s, 3, u"« RC » inconnu"_s},
+        {u"  1 ; Sardine"_s, u"  x ; Sardine"_s, 7, u"n'est pas un nombre"_s},
+        {u"  1 ; Sardine"_s, u"    ; Sardine"_s, 7, u"N° omis"_s},
+        {u"  7 ; Rouget de roche\n"_s, u"  1 ; Rouget de roche\n"_s, 8, u"répété"_s},
+        {u"  BENSALEM ; Mourad"_s, u"  BENSALEM ; "_s, 10, u"prénom"_s},
+        {u"; BENSALEM ; Ténès ;"_s, u"; BENSALAM ; Ténès ;"_s, 12, u"« BENSALAM » inconnu"_s},
+        {u"; Mandataires ;"_s, u"; Voyageurs ;"_s, 14, u"« Voyageurs » inconnue"_s},
+        {u"0550000231"_s, u"0550000231 ; ; ; ; trop"_s, 14, u"11 champs"_s},
+        {u"[journée 02/11/2026]"_s, u"[journée 31/02/2026]"_s, 15, u"date"_s},
+        {u"[journée 02/11/2026]"_s, u"[journée 02/11/2026"_s, 15, u"crochet"_s},
+        {u"[journée 02/11/2026]"_s, u"# rien"_s, 16, u"hors d'une journée"_s},
+        {u"[bordereau L'Espérance]"_s, u"[bordereau Inconnu]"_s, 16, u"« Inconnu » inconnue"_s},
+        {u"[bordereau L'Espérance]"_s, u"# rien"_s, 17, u"un bordereau est attendu"_s},
+        {u"Glace 9 600.50"_s, u"Glace"_s, 17, u"un libellé et un montant"_s},
+        {u"  primes ="_s, u"  prime ="_s, 18, u"« prime » inconnu"_s},
+        {u"= 12.5"_s, u"= 100"_s, 19, u"moins de 100"_s},
+        {u"  3 D'ALM ;"_s, u"  4 D'ALM ;"_s, 20, u"client N° 4 inconnu"_s},
+        {u"  3 D'ALM ;"_s, u"  3 TOUMI ;"_s, 20, u"est « D'ALMEIDA »"_s},
+        {u"; Rouget de roche ; 2 "_s, u"; Rougette ; 2 "_s, 20, u"« Rougette » inconnu"_s},
+        {u"; 2 ; 18.5 ;"_s, u"; 2.5 ; 18.5 ;"_s, 20, u"n'est pas un nombre entier"_s},
+        {u"; 2 ; 18.5 ;"_s, u"; 2 ; -18.5 ;"_s, 20, u"n'est pas un nombre"_s},
+        {u"; 2 ; 18.5 ;"_s, u"; ; ;"_s, 20, u"ni cageots ni poids"_s},
+        {u"; 18.5 ; 2 200"_s, u"; 18.5"_s, 20, u"P.U. omis"_s},
+        {u"; 18.5 ; 2 200"_s, u"; 18.5 ; 2 200 ; 9"_s, 20, u"6 champs"_s},
         {u"# une matinée"_s, u"une matinée"_s, 1, u"section"_s},
-        {u"[catégories]"_s, u"[catégorie]"_s, 2, u"« catégorie » inconnue"_s},
+        {u"[catégories]"_s, u"[catégorie]"_s, 4, u"« catégorie » inconnue"_s},
     };
     for (const Cas& c : cas) {
         SCOPED_TRACE(c.mauvaise.toStdString());
@@ -127,7 +131,7 @@ TEST(Saison, une_journee_suit_la_precedente_et_un_bordereau_a_des_lignes)
     EXPECT_TRUE(refus(u"[journée 02/01/2027]\n"_s).contains(u"exercice 2026"_s));
     // The bordereau left empty is blamed, not the place where that comes to light.
     EXPECT_TRUE(
-        refus(u"[bordereau L'Espérance]\n# rien\n[journée 03/11/2026]\n"_s).contains(u"ligne 20 : bordereau sans"_s));
+        refus(u"[bordereau L'Espérance]\n# rien\n[journée 03/11/2026]\n"_s).contains(u"ligne 22 : bordereau sans"_s));
     EXPECT_FALSE(lireTexte(QString()));
     EXPECT_TRUE(lireSaison(u"/nulle/part/saison.txt"_s).refus().texte.contains(u"'saison.txt' illisible"_s));
 }

@@ -166,7 +166,7 @@ TEST_F(JournalDesVentes, une_ligne_est_sur_le_disque_avant_son_message)
     const auto acquise = saisie.SaveLine(achat(u"5"_s, u"40.5"_s, u"120"_s));
     ASSERT_TRUE(acquise);
     EXPECT_EQ(acquise->rang, 1);
-    EXPECT_EQ(acquise->message.texte, u"Ligne N°  2 acquise"_s);
+    EXPECT_EQ(acquise->message, (Refus{u"Ligne N°  2 acquise"_s, QString(), Icone::Aucune}));
 
     // The file alone, as a power cut would leave it.
     const QString copie = t.chemin(u"apres_coupure.mdb"_s);
@@ -460,7 +460,7 @@ TEST_F(JournalDesVentes, un_numero_tape_se_cherche_comme_texte)
 
     const auto omis = saisie.clients().choisirParOrdre(u"  "_s);
     ASSERT_FALSE(omis);
-    EXPECT_EQ(omis.refus().texte, u"Numéro omis"_s);
+    EXPECT_EQ(omis.refus(), (Refus{u"Numéro omis"_s, QString(), Icone::Aucune}));
     for (const QString& inconnu : {u"3"_s, u"01"_s, u"1.0"_s}) {
         const auto introuvable = saisie.poissons().choisirParOrdre(inconnu);
         ASSERT_FALSE(introuvable) << inconnu.toStdString();

@@ -147,7 +147,7 @@ TEST_F(Registre, un_filtre_refuse_laisse_la_liste_comme_elle_est)
         {{Genre::Periode, 1, u"10/03/2026"_s, u"aa/bb/cccc"_s, numEnsemble}, incomplete},
         {{Genre::Periode, 1, u"02/04/2026"_s, u"30/03/2026"_s, numEnsemble}, inversees},
         {{Genre::Periode, 1, u"11/03/2026"_s, u"30/03/2026"_s, numEnsemble}, aucun},
-        {{Genre::Periode, 1, u"1'/03/2026"_s, u"30/03/2026"_s, numEnsemble}, aucun},
+        {{Genre::Periode, 1, u"1'/03/2026"_s, u"30/03/2026"_s, numEnsemble}, incomplete},
         {{Genre::Mois, 3, {}, {}, amal}, aucun},
         {{Genre::Mois, 12, {}, {}, numEnsemble}, aucun},
     };

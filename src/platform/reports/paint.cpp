@@ -116,7 +116,8 @@ bool paint(const Document& document, QPagedPaintDevice& device, int first, int l
         throw Error(u"L'impression n'a pas pu commencer : l'imprimante ne répond pas"_s);
     for (int page = first; page <= last; ++page) {
         if (page > first) {
-            device.setPageLayout(sheetOf(document.pages()[page]));
+            if (const QPageLayout sheet = sheetOf(document.pages()[page]); !sheet.isEquivalentTo(device.pageLayout()))
+                device.setPageLayout(sheet);
             if (!device.newPage())
                 throw Error(u"L'impression s'est arrêtée à la page %1"_s.arg(page));
         }

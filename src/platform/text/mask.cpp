@@ -43,7 +43,7 @@ Digits roundedDigits(double magnitude, std::size_t decimals)
             all.insert(all.begin(), '1');
     }
     fraction = all.substr(all.size() - decimals);
-    all.resize(all.size() - decimals);
+    all.erase(all.size() - decimals);
     all.erase(0, std::min(all.find_first_not_of('0'), all.size()));
     return {all, fraction};
 }

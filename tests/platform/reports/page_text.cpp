@@ -1,38 +1,70 @@
 #include "tests/platform/reports/page_text.h"
 
+#include "platform/reports/units.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace reports;
 
-QStringList linesOf(const reports::Document& document, int page)
+namespace {
+
+int lineOf(const TextRun& run)
 {
-    const reports::Page& content = document.pages()[page];
-    QList<reports::TextRun> runs = content.texts;
-    const auto line = [](const reports::TextRun& run) { return qRound(run.baseline / 10); };
-    std::stable_sort(runs.begin(), runs.end(), [&](const reports::TextRun& a, const reports::TextRun& b) {
-        return line(a) != line(b) ? line(a) < line(b) : a.x < b.x;
+    return qRound(run.baseline / unitsPerPoint);
+}
+
+QString millimetres(double units)
+{
+    return QString::number(units / unitsPerMillimetre, 'f', 1);
+}
+
+QStringList describe(const Document& document, int page, bool withPlaces)
+{
+    const Page& content = document.pages()[page];
+    QList<TextRun> runs = content.texts;
+    std::stable_sort(runs.begin(), runs.end(), [](const TextRun& a, const TextRun& b) {
+        return lineOf(a) != lineOf(b) ? lineOf(a) < lineOf(b) : a.x < b.x;
     });
     QStringList lines;
     int current = -1;
-    for (const reports::TextRun& run : std::as_const(runs)) {
-        const QString text =
-            QString(run.text).replace(reports::pagesMark, QString::number(document.pagesOfPart(content)));
-        if (line(run) == current)
+    for (const TextRun& run : std::as_const(runs)) {
+        QString text = QString(run.text).replace(pagesMark, QString::number(document.pagesOfPart(content)));
+        if (withPlaces)
+            text.prepend(millimetres(run.x) + u' ');
+        if (lineOf(run) == current)
             lines.last() += u" | "_s + text;
         else
-            lines.append(text);
-        current = line(run);
+            lines.append(withPlaces ? millimetres(run.baseline) + u": "_s + text : text);
+        current = lineOf(run);
     }
     return lines;
 }
 
-QStringList linesOf(const reports::Document& document)
+QStringList describe(const Document& document, bool withPlaces)
 {
     QStringList lines;
     for (int page = 0; page < document.pageCount(); ++page) {
-        const reports::Page& content = document.pages()[page];
+        const Page& content = document.pages()[page];
         lines.append(u"--- %1/%2"_s.arg(content.number).arg(document.pagesOfPart(content)));
-        lines.append(linesOf(document, page));
+        lines.append(describe(document, page, withPlaces));
     }
     return lines;
+}
+
+} // namespace
+
+QStringList linesOf(const Document& document, int page)
+{
+    return describe(document, page, false);
+}
+
+QStringList linesOf(const Document& document)
+{
+    return describe(document, false);
+}
+
+QStringList placesOf(const Document& document)
+{
+    return describe(document, true);
 }

@@ -8,3 +8,5 @@
 QStringList linesOf(const reports::Document& document, int page);
 /// All pages, with "--- n/N" in front of each.
 QStringList linesOf(const reports::Document& document);
+/// The same with the places in millimetres: "<y>: <x> text | <x> text".
+QStringList placesOf(const reports::Document& document);

@@ -1,28 +1,26 @@
 #include "platform/reports/layout.h"
 #include "platform/reports/paint.h"
+#include "platform/reports/units.h"
+#include "platform/services/clock.h"
 #include "tests/platform/reports/page_text.h"
 #include "tests/platform/reports/samples.h"
 #include "tests/support/print.h"
 
 #include <QDir>
-#include <QProcess>
-#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 const QDir templates(QStringLiteral(TALOR_SOURCE_DIR "/reports"));
+const QDir kept(QStringLiteral(TALOR_SOURCE_DIR "/tests/platform/reports/kept"));
 
 reports::Document print(const QString& file, MemorySource source)
 {
+    services::clock::setToday(QDate(2026, 11, 22));
     const reports::Document document =
         reports::layOut(reports::Template::load(templates.filePath(file)), source, reports::Request());
-    // To look at what the templates give: TALOR_KEEP_PDF=<folder>
-    if (const QString folder = qEnvironmentVariable("TALOR_KEEP_PDF"); !folder.isEmpty()) {
-        static int number = 0;
-        reports::writePdf(document, u"%1/%2_%3.pdf"_s.arg(folder, file).arg(++number));
-    }
+    services::clock::followSystem();
     return document;
 }
 
@@ -33,13 +31,126 @@ reports::Document printInvoice(int lines, const SampleRow& texts)
     return print(u"Facture.RPT"_s, source);
 }
 
-TEST(Templates, Look)
+/// Holds the texts and places of a document against a kept file. After a change that is meant, run with
+/// TALOR_KEEP=<folder>: the new files and a PDF of each to look at are written there.
+void compareWithKept(const reports::Document& document, const QString& name)
 {
-    printInvoice(8, samples::invoiceTexts(12));
-    printInvoice(8, samples::deliveryNoteTexts(12));
-    printInvoice(80, samples::invoiceTexts(12));
-    for (const QString& f : {u"L_CLIENT.RPT"_s, u"L_POISSN.RPT"_s, u"L_ARMATR.RPT"_s, u"L_CHALUT.RPT"_s})
-        print(f, samples::everything(3));
+    const QString now = placesOf(document).join(u'\n') + u'\n';
+    if (const QString folder = qEnvironmentVariable("TALOR_KEEP"); !folder.isEmpty()) {
+        QFile file(QDir(folder).filePath(name + u".txt"_s));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(now.toUtf8());
+        reports::writePdf(document, QDir(folder).filePath(name + u".pdf"_s));
+    }
+    QFile file(kept.filePath(name + u".txt"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+    const QStringList expected = QString::fromUtf8(file.readAll()).split(u'\n');
+    const QStringList lines = now.split(u'\n');
+    for (qsizetype i = 0; i < std::max(lines.size(), expected.size()); ++i)
+        ASSERT_EQ(lines.value(i), expected.value(i)) << name.toStdString() << ", line " << i + 1;
+}
+
+TEST(Templates, PrintWhatTheyPrintedBefore)
+{
+    compareWithKept(printInvoice(4, samples::invoiceTexts(12)), u"facture"_s);
+    compareWithKept(printInvoice(4, samples::deliveryNoteTexts(12)), u"bon_de_livraison"_s);
+    MemorySource source = samples::everything(1);
+    source.tables[u"Clients"_s] = samples::clients(24);
+    compareWithKept(print(u"L_CLIENT.RPT"_s, source), u"liste_clients"_s);
+    compareWithKept(print(u"L_POISSN.RPT"_s, source), u"liste_poissons"_s);
+    compareWithKept(print(u"L_ARMATR.RPT"_s, source), u"liste_armateurs"_s);
+    compareWithKept(print(u"L_CHALUT.RPT"_s, source), u"liste_embarcations"_s);
+}
+
+TEST(Templates, EveryOneCanBeRead)
+{
+    const QStringList files = templates.entryList({u"*.RPT"_s, u"*.rpt"_s});
+    EXPECT_GE(files.size(), 5);
+    for (const QString& file : files)
+        EXPECT_FALSE(reports::Template::load(templates.filePath(file)).fields().isEmpty()) << file.toStdString();
+}
+
+TEST(Invoice, OfTwentyFiveLinesTakesOneSheet)
+{
+    EXPECT_EQ(printInvoice(25, samples::invoiceTexts(12)).pageCount(), 1);
+}
+
+TEST(Invoice, OfEightyLinesRepeatsItsHeadingsAndKeepsItsEndTogether)
+{
+    const reports::Document document = printInvoice(80, samples::invoiceTexts(12));
+    ASSERT_EQ(document.pageCount(), 3);
+    int lines = 0;
+    for (int page = 0; page < 3; ++page) {
+        const QStringList text = linesOf(document, page);
+        EXPECT_TRUE(text.contains(u"Poisson | Casiers | Poids (kg) | P.U. (DA) | Montant (DA)"_s)) << page;
+        EXPECT_EQ(text.last(), u"Téléphone  :  043 64 12 07 | Page %1 / 3"_s.arg(page + 1));
+        EXPECT_EQ(text.filter(u"Report :"_s).size(), page > 0);
+        EXPECT_EQ(text.filter(u"(suite)"_s).size(), page > 0);
+        EXPECT_EQ(text.filter(u"Total"_s).isEmpty(), page < 2);
+        for (const QString& line : text)
+            lines += line.count(u'|') == 4 && !line.startsWith(u"Poisson");
+    }
+    EXPECT_EQ(lines, 80);
+    const QString end = linesOf(document, 2).join(u'\n');
+    for (const QString& part : {u"Total poisson"_s, u"Consigne | 12 300.00"_s, u"Total (DA) | 999 777.99"_s,
+                                u"Arrêtée la présente facture"_s, u"*** NEUF CENT"_s, u"*** DIX SEPT DINARS"_s})
+        EXPECT_TRUE(end.contains(part)) << part.toStdString();
+}
+
+/// However many lines there are, the last page has one at least, and all of the end.
+TEST(Invoice, NeverLeavesItsTotalsAlone)
+{
+    for (int lines = 18; lines <= 36; ++lines) {
+        const reports::Document document = printInvoice(lines, samples::invoiceTexts(12));
+        const QStringList last = linesOf(document, document.pageCount() - 1);
+        int rows = 0;
+        for (const QString& line : last)
+            rows += line.count(u'|') == 4 && !line.startsWith(u"Poisson");
+        EXPECT_GE(rows, 1) << lines;
+        EXPECT_EQ(last.filter(u"Total poisson"_s).size(), 1) << lines;
+        EXPECT_EQ(last.filter(u"***"_s).size(), 2) << lines;
+    }
+}
+
+TEST(Invoice, PutsEachLineOfWordsOnOneLineInsideItsFrame)
+{
+    SampleRow texts = samples::invoiceTexts(12);
+    for (int i = 11; i <= 13; ++i)
+        texts[u"textes.ch%1"_s.arg(i)] = u"*** "_s + QString(60, u'W') + u" ***"_s;
+    const reports::Document document = printInvoice(1, texts);
+    ASSERT_EQ(document.pageCount(), 1);
+    int words = 0;
+    for (const reports::TextRun& run : document.pages()[0].texts) {
+        if (!run.text.startsWith(u"***"))
+            continue;
+        ++words;
+        EXPECT_EQ(run.text.size(), 68);
+        EXPECT_EQ(run.font.size, 105); // at its full size
+        EXPECT_LT(run.x + reports::textWidth(run.font, run.text), (15 + 178) * reports::unitsPerMillimetre);
+        const auto& shapes = document.pages()[0].shapes;
+        EXPECT_TRUE(std::any_of(shapes.begin(), shapes.end(), [&](const reports::Shape& shape) {
+            return shape.width > 0 && !shape.isRule && shape.rect.contains(run.x, run.baseline);
+        })) << "in a frame";
+    }
+    EXPECT_EQ(words, 3);
+}
+
+TEST(Invoice, AsADeliveryNoteHasNoWordsAndNoFrameForThem)
+{
+    const reports::Document note = printInvoice(3, samples::deliveryNoteTexts(12));
+    const QString text = linesOf(note, 0).join(u'\n');
+    EXPECT_TRUE(text.contains(u"Bon de Livraison N° 12 / 2026"_s));
+    EXPECT_FALSE(text.contains(u"***"_s));
+    EXPECT_TRUE(text.contains(u"Total (DA) | 999 777.99"_s));
+    const auto outlined = [](const reports::Shape& shape) { return shape.width > 0 && !shape.isRule; };
+    const auto& shapes = note.pages()[0].shapes;
+    EXPECT_TRUE(std::none_of(shapes.begin(), shapes.end(), outlined));
+}
+
+TEST(Invoice, WithoutLinesPrintsAllTheSame)
+{
+    const QString text = linesOf(printInvoice(0, samples::invoiceTexts(12)), 0).join(u'\n');
+    EXPECT_TRUE(text.contains(u"HADJ-SADOK  Aïcha"_s) && text.contains(u"Total poisson"_s)) << text.toStdString();
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "sales/report_texts.h"
+#include "core/report_texts.h"
 
 namespace talor {
 

@@ -1,0 +1,131 @@
+#include "demo/capture.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QKeySequence>
+#include <QTest>
+#include <QTimer>
+
+namespace talor::demo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int pas = 15;          // milliseconds between two steps
+constexpr int attente = 3000;    // milliseconds until a window must stand
+constexpr int sortiesPolies = 5; // times that a dialog is asked to close before it is told to
+
+} // namespace
+
+void taper(const QString& touche)
+{
+    QWidget* cible = QApplication::focusWidget();
+    if (!cible)
+        cible = QApplication::activeModalWidget();
+    if (!cible)
+        cible = QApplication::activeWindow();
+    if (!cible)
+        return;
+    if (touche.startsWith(u'<') && touche.endsWith(u'>') && touche.size() > 2) {
+        const QKeyCombination combinaison = QKeySequence::fromString(touche.mid(1, touche.size() - 2))[0];
+        QTest::keyClick(cible, combinaison.key(), combinaison.keyboardModifiers());
+        return;
+    }
+    for (const QChar caractere : touche)
+        QTest::sendKeyEvent(QTest::Click, cible, Qt::Key_unknown, QString(caractere), Qt::NoModifier);
+}
+
+/// One picture under way. A key may open a dialog and return only once it is closed, so each step is a timer of its own
+/// that goes on meanwhile; a step that comes when all is over finds nothing to do.
+class Photographe::Prise : public QObject
+{
+public:
+    Prise(QWidget& fenetre, const Ecran& ecran, const QString& chemin)
+        : m_fenetre(fenetre)
+        , m_ecran(ecran)
+        , m_chemin(chemin)
+    {
+        planifier();
+    }
+
+    bool estFinie() const { return m_etape == Etape::Finie; }
+    std::optional<QString> faute() const
+    {
+        if (m_etape == Etape::Touches)
+            return u"l'écran « "_s + m_ecran.nom + u" » ne s'est pas ouvert"_s;
+        return m_faute;
+    }
+
+private:
+    enum class Etape
+    {
+        Touches,
+        Fermeture,
+        Finie
+    };
+
+    void planifier()
+    {
+        QTimer::singleShot(pas, this, [this] { avancer(); });
+    }
+
+    void avancer()
+    {
+        planifier();
+        QWidget* const modale = QApplication::activeModalWidget();
+        if (m_etape == Etape::Touches) {
+            if (modale || !m_ecran.modale)
+                presserOuPrendre(modale ? modale : &m_fenetre);
+        } else if (modale) {
+            fermer(modale);
+        } else {
+            m_etape = Etape::Finie;
+        }
+    }
+
+    void presserOuPrendre(QWidget* devant)
+    {
+        if (m_touche < m_ecran.touches.size()) {
+            taper(m_ecran.touches[m_touche++]);
+            return;
+        }
+        m_etape = Etape::Fermeture;
+        if (!devant->grab().save(m_chemin))
+            m_faute = u"l'image « "_s + m_chemin + u" » n'a pu être écrite"_s;
+    }
+
+    void fermer(QWidget* modale)
+    {
+        auto* const dialogue = qobject_cast<QDialog*>(modale);
+        if (!dialogue)
+            modale->close();
+        else if (++m_sorties <= sortiesPolies)
+            dialogue->reject();
+        else
+            dialogue->done(QDialog::Rejected);
+    }
+
+    QWidget& m_fenetre;
+    const Ecran& m_ecran;
+    QString m_chemin;
+    Etape m_etape = Etape::Touches;
+    qsizetype m_touche = 0;
+    int m_sorties = 0;
+    std::optional<QString> m_faute;
+};
+
+Photographe::Photographe(QWidget& fenetre, const QDir& dossier)
+    : m_fenetre(fenetre)
+    , m_dossier(dossier)
+{}
+
+std::optional<QString> Photographe::prendre(const Ecran& ecran)
+{
+    Prise prise(m_fenetre, ecran, m_dossier.filePath(ecran.nom + u".png"_s));
+    ecran.ouvrir();
+    QTest::qWaitFor([&] { return prise.estFinie(); }, attente);
+    return prise.faute();
+}
+
+} // namespace talor::demo
