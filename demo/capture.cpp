@@ -50,12 +50,7 @@ public:
     }
 
     bool estFinie() const { return m_etape == Etape::Finie; }
-    std::optional<QString> faute() const
-    {
-        if (m_etape == Etape::Touches)
-            return u"l'écran « "_s + m_ecran.nom + u" » ne s'est pas ouvert"_s;
-        return m_faute;
-    }
+    const std::optional<QString>& faute() const { return m_faute; }
 
 private:
     enum class Etape
@@ -124,7 +119,8 @@ std::optional<QString> Photographe::prendre(const Ecran& ecran)
 {
     Prise prise(m_fenetre, ecran, m_dossier.filePath(ecran.nom + u".png"_s));
     ecran.ouvrir();
-    QTest::qWaitFor([&] { return prise.estFinie(); }, attente);
+    if (!QTest::qWaitFor([&] { return prise.estFinie(); }, attente))
+        return u"l'écran « "_s + ecran.nom + u" » ne s'est pas ouvert"_s;
     return prise.faute();
 }
 
