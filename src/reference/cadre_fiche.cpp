@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 
 namespace talor {
 
@@ -22,6 +23,7 @@ using controls::TextField;
 namespace {
 
 constexpr int colonnesGrille = 4; ///< caption and field, twice
+constexpr int largeurDemiChamp = 110;
 
 TextField::Kind genre(Saisie saisie)
 {
@@ -58,12 +60,16 @@ CadreFiche::CadreFiche(Exercice& exercice, const DescriptionFiche& description, 
     grille->setContentsMargins(0, 0, 4, 0);
     grille->setHorizontalSpacing(12);
     grille->setVerticalSpacing(8);
-    for (const int colonne : {1, 3})
+    for (const int colonne : {1, 3}) {
         grille->setColumnStretch(colonne, 1);
+        grille->setColumnMinimumWidth(colonne, largeurDemiChamp);
+    }
     for (const Champ& champ : m_champs) {
         m_editeurs.append(creerEditeur(champ, options));
         placer(grille, champ, m_editeurs.last().controle);
     }
+    if (m_champs.last().saisie != Saisie::Memo)
+        grille->setRowStretch(grille->rowCount(), 1);
     enchainer(description);
 
     m_defilement->setWidget(contenu);
@@ -78,8 +84,12 @@ CadreFiche::CadreFiche(Exercice& exercice, const DescriptionFiche& description, 
     addWide(m_defilement);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* champ) { garderEnVue(champ); });
 
-    addButton(controls::hintLabel(u"Ctrl+Entrée : OK    Échap : Annuler"_s));
-    connect(addAccept(u"Image1", options.imageOk), &QToolButton::clicked, this, &CadreFiche::accepte);
+    QLabel* raccourcis = controls::hintLabel(u"Ctrl+Entrée : OK\nÉchap : Annuler"_s);
+    raccourcis->setWordWrap(false);
+    addButton(raccourcis);
+    QToolButton* ok = addAccept(u"Image1", options.imageOk);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_Enter, ok), &QShortcut::activated, ok, &QToolButton::click);
+    connect(ok, &QToolButton::clicked, this, &CadreFiche::accepte);
     m_annuler = addCancel(u"Image1", options.imageAnnuler);
     connect(m_annuler, &QAbstractButton::clicked, this, &CadreFiche::abandonne);
 }
@@ -154,7 +164,6 @@ void CadreFiche::ouvrir(const QString& titre, const Fiche& fiche)
     setAccessibleName(titre);
     for (qsizetype i = 0; i < m_champs.size(); ++i)
         m_editeurs[i].poser(fiche.value(QString::fromLatin1(m_champs[i].colonne)));
-    show();
     m_chaine->goTo(0);
 }
 

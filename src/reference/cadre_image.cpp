@@ -54,7 +54,6 @@ CadreImage::CadreImage(QWidget* parent)
     colonne->setContentsMargins(12, 12, 12, 12);
     colonne->addWidget(m_image);
     colonne->addLayout(boutons);
-    colonne->addStretch();
 
     connect(m_image, &QToolButton::clicked, this, &CadreImage::choisir);
     connect(supprimer, &QPushButton::clicked, this, &CadreImage::supprimer);

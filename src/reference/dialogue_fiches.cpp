@@ -21,7 +21,8 @@ QList<controls::Column> colonnesGrille(const DescriptionFiche& description)
 {
     QList<controls::Column> colonnes;
     for (const Colonne& colonne : description.colonnes)
-        colonnes.append({colonne.titre, colonne.largeur, colonne.centree ? Qt::AlignHCenter : Qt::AlignLeft});
+        colonnes.append(
+            {colonne.titre, colonne.largeur, colonne.centree ? Qt::AlignHCenter : Qt::AlignLeft, colonne.etiree});
     return colonnes;
 }
 
@@ -42,14 +43,16 @@ DialogueFiches::DialogueFiches(QStringView nom, Exercice& exercice, const Descri
     , m_commandes(new controls::CommandBar)
     , m_cadre(new CadreFiche(exercice, description, cadre))
     , m_rangee(new QHBoxLayout)
+    , m_fleches(new QWidget)
 {
     m_grille->setColumns(colonnesGrille(description));
     m_cadre->hide();
     m_rangee->setSpacing(12);
-    m_rangee->addWidget(m_grille, 1);
-    if (description.colonnesEchangees > 0)
-        creerFleches();
-    m_rangee->addWidget(m_cadre, 1);
+    m_rangee->addWidget(m_grille, 2);
+    m_rangee->addWidget(m_fleches);
+    const bool avecMemo = description.champs.last().saisie == Saisie::Memo;
+    m_rangee->addWidget(m_cadre, 3, avecMemo ? Qt::Alignment() : Qt::AlignTop);
+    creerFleches();
     body()->addLayout(m_rangee, 1);
 
     m_commandes->add(Nouveau, u"nouveau", u"Nouveau"_s, Qt::Key_Insert);
@@ -69,17 +72,27 @@ DialogueFiches::DialogueFiches(QStringView nom, Exercice& exercice, const Descri
     remplir(Classement::OrdreAlphabetique);
 }
 
+/// Room for the list whole, and for the entry frame beside a good part of it.
+QSize DialogueFiches::tailleVoulue() const
+{
+    constexpr int hauteur = 600;
+    constexpr int listePendantSaisie = 360;
+    const QSize liste = sizeHint();
+    return {qMax(liste.width(), m_cadre->sizeHint().width() + listePendantSaisie), qMax(liste.height(), hauteur)};
+}
+
 void DialogueFiches::creerFleches()
 {
     m_haut = named(controls::iconButton(u"monter", u"Haut"_s, Qt::ALT | Qt::Key_Up), u"Haut");
     m_bas = named(controls::iconButton(u"descendre", u"Bas"_s, Qt::ALT | Qt::Key_Down), u"Bas");
-    auto* colonne = new QVBoxLayout;
+    auto* colonne = new QVBoxLayout(m_fleches);
+    colonne->setContentsMargins({});
     for (QToolButton* fleche : {m_haut, m_bas}) {
         garderLaPlace(fleche);
         colonne->addWidget(fleche);
     }
     colonne->addStretch();
-    m_rangee->addLayout(colonne);
+    m_fleches->setVisible(m_fiches.description().colonnesEchangees > 0);
     connect(m_haut, &QToolButton::clicked, this, [this] { echanger(true); });
     connect(m_bas, &QToolButton::clicked, this, [this] { echanger(false); });
     connect(m_grille, &controls::Grid::rowSelected, this, &DialogueFiches::montrerFleches);
@@ -87,12 +100,9 @@ void DialogueFiches::creerFleches()
 
 void DialogueFiches::montrerFleches()
 {
-    if (!m_haut)
-        return;
     const int ligne = m_grille->currentRow();
-    const bool liste = m_grille->isEnabled() && ligne >= 0;
-    m_haut->setVisible(liste && ligne > 0);
-    m_bas->setVisible(liste && ligne < m_fiches.nombre() - 1);
+    m_haut->setVisible(ligne > 0);
+    m_bas->setVisible(ligne >= 0 && ligne < m_fiches.nombre() - 1);
 }
 
 void DialogueFiches::echanger(bool versLeHaut)
@@ -119,8 +129,11 @@ void DialogueFiches::remplir(Classement classement)
 
 void DialogueFiches::showEvent(QShowEvent* event)
 {
+    const bool premiere = !std::exchange(m_ouvert, true);
+    if (premiere)
+        resize(tailleVoulue());
     Dialog::showEvent(event);
-    if (std::exchange(m_ouvert, true))
+    if (!premiere)
         return;
     m_grille->setFocus();
     if (m_fiches.nombre() == 0)
@@ -147,16 +160,26 @@ void DialogueFiches::executer(int index)
     }
 }
 
-void DialogueFiches::surSaisie(bool)
+void DialogueFiches::surSaisie(bool) {}
+
+/// The list with its commands, or the entry frame beside a list at rest.
+void DialogueFiches::montrerSaisie(bool enCours)
 {
+    // What makes room goes before what takes it, or the window would grow to hold both.
+    if (!enCours)
+        m_cadre->hide();
+    m_grille->setEnabled(!enCours && m_fiches.nombre() > 0);
+    m_commandes->setVisible(!enCours);
+    m_fleches->setVisible(!enCours && m_fiches.description().colonnesEchangees > 0);
+    surSaisie(enCours);
+    if (enCours)
+        m_cadre->show();
+    montrerFleches();
 }
 
 void DialogueFiches::ouvrirSaisie(const QString& titre, const Fiche& fiche)
 {
-    m_grille->setEnabled(false);
-    m_commandes->hideAll();
-    montrerFleches();
-    surSaisie(true);
+    montrerSaisie(true);
     m_cadre->ouvrir(titre, fiche);
 }
 
@@ -164,11 +187,7 @@ void DialogueFiches::fermerSaisie()
 {
     m_ligneEnSaisie.reset();
     m_cadre->vider();
-    m_cadre->hide();
-    m_commandes->showAll();
-    m_grille->setEnabled(m_fiches.nombre() > 0);
-    montrerFleches();
-    surSaisie(false);
+    montrerSaisie(false);
     if (m_grille->isEnabled())
         m_grille->setFocus();
     else

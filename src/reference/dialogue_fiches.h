@@ -61,6 +61,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    QSize tailleVoulue() const;
     void creerFleches();
     void montrerFleches();
     void echanger(bool versLeHaut);
@@ -70,6 +71,7 @@ private:
     void supprimer();
     void quitter();
     void enregistrer();
+    void montrerSaisie(bool enCours);
     void ouvrirSaisie(const QString& titre, const Fiche& fiche);
     void fermerSaisie();
 
@@ -78,8 +80,9 @@ private:
     controls::CommandBar* m_commandes;
     CadreFiche* m_cadre;
     QHBoxLayout* m_rangee;
-    QToolButton* m_haut = nullptr;
-    QToolButton* m_bas = nullptr;
+    QWidget* m_fleches; ///< what holds the two arrows
+    QToolButton* m_haut;
+    QToolButton* m_bas;
     std::optional<int> m_ligneEnSaisie; ///< none while a new card is entered
     bool m_ouvert = false;
 };

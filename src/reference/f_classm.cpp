@@ -39,6 +39,7 @@ F_Classm::F_Classm(QWidget* parent)
 
     connect(ok, &QToolButton::clicked, this, &F_Classm::accepter);
     connect(annuler, &QToolButton::clicked, this, [this] { leave(); });
+    setMinimumWidth(320);
     m_manuel->setFocus();
 }
 

@@ -81,7 +81,7 @@ Familles::Familles(Exercice& exercice, qint64 actuelle, QWidget* parent)
         connect(new QShortcut(entree, m_liste, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
                 &Familles::quitter);
     remplir(actuelle);
-    m_liste->setFocus();
+    resize(480, 560);
 }
 
 void Familles::executer(int index)

@@ -48,9 +48,10 @@ struct Champ
 struct Colonne
 {
     QString titre;
-    int largeur; ///< twips, for text of 8 points
+    int largeur; ///< twips, as the grid takes them
     std::function<QString(Exercice&, const store::Recordset&, int rang)> cellule;
     bool centree = false;
+    bool etiree = false; ///< takes what width is left
 };
 
 /// What stands in the way of a deletion: a row that the query finds for the card's `num` (its one "?").
@@ -75,8 +76,10 @@ struct DescriptionFiche
     QList<Champ> champs;
     QList<Colonne> colonnes;
     QList<Reference> references = {};
-    bool ordonnee = true;                        ///< the table has `ordre`
-    int colonnesEchangees = 0;                   ///< leading columns of the grid that `Haut` and `Bas` exchange
+    std::optional<Refus> invitation = {}; ///< shown when the dialog opens on no card at all
+    bool enterVaAuMemo = false;           ///< Enter leaves the last field of one line, where elsewhere it does nothing
+    bool ordonnee = true;                 ///< the table has `ordre`
+    int colonnesEchangees = 0;            ///< leading columns of the grid that `Haut` and `Bas` exchange
     std::function<Fiche(Exercice&)> vierge = {}; ///< presets of a new card
     /// What a new card brings with it, written in the same transaction.
     std::function<void(Exercice&, qint64 num, const Fiche&)> apresCreation = {};

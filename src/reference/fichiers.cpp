@@ -53,11 +53,12 @@ const DescriptionFiche& fichierProduits()
         .champs = {{"ordre", 0, u"Numéro"_s, Saisie::Numero, longueurNumero, true},
                    {"denom", 1, u"Désignation"_s, Saisie::Libre, longueurNom, true}},
         .colonnes = {{u"Ordre"_s, 600, celluleRang(), true},
-                     {u"Désignation"_s, 3100, celluleTexte("denom")},
+                     {u"Désignation"_s, 3100, celluleTexte("denom"), false, true},
                      {u"N°"_s, 700, celluleNumero(), true}},
         .references = {{u"select num_poisson from L_vente where num_poisson = ?"_s,
                         {u"Ce produit est inclus dans un mouvement"_s}}},
-        .invitation = Refus{u"Aucun produit enregistré\ninstaller un nouveau produit"_s, u"TALOR"_s, Icone::Information},
+        .invitation =
+            Refus{u"Aucun produit enregistré\ninstaller un nouveau produit"_s, u"TALOR"_s, Icone::Information},
         .colonnesEchangees = 2,
     };
     return description;

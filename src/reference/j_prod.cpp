@@ -19,7 +19,7 @@ J_PROD::J_PROD(Exercice& exercice, QWidget* parent)
     : DialogueFiches(u"J_PROD", exercice, fichierProduits(), {}, {}, parent)
     , m_image(new CadreImage)
 {
-    rangee()->addWidget(m_image);
+    rangee()->addWidget(m_image, 0, Qt::AlignTop);
     connect(grille(), &controls::Grid::rowSelected, this, &J_PROD::montrerImage);
     connect(grille(), &controls::Grid::rowClicked, this, &J_PROD::montrerImage);
     connect(m_image, &CadreImage::choisir, this, &J_PROD::choisirImage);
