@@ -6,9 +6,9 @@
 #include "shell/barre_menus.h"
 #include "shell/entete.h"
 #include "shell/image_laterale.h"
+#include "shell/images_laterales.h"
 #include "shell/menu.h"
 #include "shell/panneaux.h"
-#include "shell/startup.h"
 
 #include <QBoxLayout>
 #include <QCloseEvent>
@@ -122,8 +122,8 @@ void Form1::actualiserMenus()
 
 void Form1::actualiserImages()
 {
-    m_gauche->charger(imageLaterale(m_exercice.installation(), u"Gauche"_s));
-    m_droite->charger(imageLaterale(m_exercice.installation(), u"Droit"_s));
+    m_gauche->charger(imageLaterale(m_exercice.installation(), Cote::Gauche));
+    m_droite->charger(imageLaterale(m_exercice.installation(), Cote::Droite));
     montrerPort();
 }
 

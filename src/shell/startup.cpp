@@ -79,13 +79,4 @@ Demarrage demarrer(const Installation& installation, const EcranDemarrage& ecran
     return ouvrir(std::make_unique<Exercice>(installation, *configuration, *pointeur));
 }
 
-std::optional<QString> imageLaterale(const Installation& installation, const QString& cote)
-{
-    const QDir photos(installation.photos());
-    const QString image = CheminReel(photos.filePath(cote + u".BMP"_s));
-    if (!FichierExiste(image) || FichierExiste(photos.filePath(cote + u"_V.BMP"_s)))
-        return std::nullopt;
-    return image;
-}
-
 } // namespace talor

@@ -33,8 +33,4 @@ struct Demarrage
 /// The start order from the files that must exist to the open exercise, each step only after the one before it.
 Demarrage demarrer(const Installation& installation, const EcranDemarrage& ecran);
 
-/// Path of a side picture of the main window ("Droit" or "Gauche"), or nothing when there is none or when its marker
-/// (Droit_V.BMP) says that none is wanted.
-std::optional<QString> imageLaterale(const Installation& installation, const QString& cote);
-
 } // namespace talor

@@ -79,8 +79,8 @@ TEST(Reparation, une_base_endommagee_s_ouvre_de_nouveau_avec_ce_qui_se_lit_encor
     const auto resultat = reparerBase(t.exercice, u"TAL2026.mdb"_s);
     ASSERT_TRUE(resultat) << resultat.refus().texte.toStdString();
     EXPECT_FALSE(t.exercice.estOuvert()); // it was not open before
-    t.exercice.OuvrirBase();
     EXPECT_TRUE(store::checkFile(t.exercice.CheminBase).isEmpty());
+    t.exercice.OuvrirBase();
     EXPECT_GT(compter(t.exercice), nbClients / 2);
 }
 

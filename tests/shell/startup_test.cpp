@@ -175,16 +175,3 @@ TEST(Demarrage, un_modele_illisible_ne_fait_pas_naitre_d_exercice)
     EXPECT_TRUE(d.message->texte.contains(u"TAL2026.mdb"_s));
     EXPECT_FALSE(dossier.contient(u"TAL2026.mdb"_s));
 }
-
-TEST(ImagesLaterales, le_marqueur_seul_dit_qu_aucune_image_n_est_voulue)
-{
-    DossierProgramme dossier;
-    dossier.installation().creerDossiers();
-    const auto image = [&](const QString& cote) { return imageLaterale(dossier.installation(), cote); };
-    EXPECT_FALSE(image(u"Droit"_s));
-    dossier.ecrire(u"Photos/droit.bmp"_s, "BM");
-    EXPECT_EQ(image(u"Droit"_s), dossier.chemin(u"Photos/droit.bmp"_s));
-    EXPECT_FALSE(image(u"Gauche"_s));
-    dossier.ecrire(u"Photos/Droit_V.BMP"_s, "");
-    EXPECT_FALSE(image(u"Droit"_s));
-}
