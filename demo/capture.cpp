@@ -50,6 +50,7 @@ public:
     }
 
     bool estFinie() const { return m_etape == Etape::Finie; }
+    bool estPrise() const { return m_etape != Etape::Touches; }
     const std::optional<QString>& faute() const { return m_faute; }
 
 private:
@@ -70,8 +71,9 @@ private:
         planifier();
         QWidget* const modale = QApplication::activeModalWidget();
         if (m_etape == Etape::Touches) {
-            if (modale || !m_ecran.modale)
-                presserOuPrendre(modale ? modale : &m_fenetre);
+            QWidget* const devant = modale || m_ecran.modale ? modale : &m_fenetre;
+            if (devant && devant->isActiveWindow())
+                presserOuPrendre(devant);
         } else if (modale) {
             fermer(modale);
         } else {
@@ -117,9 +119,11 @@ Photographe::Photographe(QWidget& fenetre, const QDir& dossier)
 
 std::optional<QString> Photographe::prendre(const Ecran& ecran)
 {
+    m_fenetre.activateWindow();
     Prise prise(m_fenetre, ecran, m_dossier.filePath(ecran.nom + u".png"_s));
     ecran.ouvrir();
-    if (!QTest::qWaitFor([&] { return prise.estFinie(); }, attente))
+    const bool jamaisOuvert = ecran.modale && !prise.estPrise();
+    if (jamaisOuvert || !QTest::qWaitFor([&] { return prise.estFinie(); }, attente))
         return u"l'écran « "_s + ecran.nom + u" » ne s'est pas ouvert"_s;
     return prise.faute();
 }
