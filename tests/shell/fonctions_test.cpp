@@ -2,6 +2,7 @@
 
 #include "platform/controls/file_dialog.h"
 #include "platform/services/opener.h"
+#include "reference/f_classm.h"
 #include "shell/affichage.h"
 #include "shell/form1.h"
 #include "shell/listes.h"
@@ -96,6 +97,22 @@ TEST(Listes, chacune_a_son_modele_son_tri_et_son_titre_de_classement)
         t.exercice.textes.moveFirst();
         EXPECT_EQ(t.exercice.textes.text("ch4"), c.ch4);
     }
+}
+
+TEST(Listes, demandent_leur_classement_et_disent_un_modele_absent)
+{
+    ExerciceTemporaire t;
+    Form1 form1(t.exercice);
+    brancherFonctions(form1, t.exercice);
+    {
+        const auto renonce = whenOpened<F_Classm>([](F_Classm& d) { press(d, Qt::Key_Escape); });
+        form1.executer(u"mnu_LCLIENTS"_s);
+    }
+    ExpectMessages messages{{u"Fichier 'L_POISSN.RPT' absent"_s, u"ATTENTION"_s},
+                            {u"Fichier 'L_ARMATR.RPT' absent"_s, u"ATTENTION"_s}};
+    const auto accepte = whenOpened<F_Classm>([](F_Classm& d) { press(d, Qt::Key_Return); });
+    form1.executer(u"mnu_LPoissons"_s);
+    form1.executer(u"mnu_LArmateurs"_s);
 }
 
 TEST(Affichage, une_image_se_choisit_se_cache_et_revient)
