@@ -3,14 +3,17 @@
 #include "core/helpers.h"
 #include "core/montrer.h"
 #include "platform/controls/command_bar.h"
+#include "platform/controls/icons.h"
 #include "platform/controls/labels.h"
+#include "platform/controls/look.h"
 #include "platform/controls/named.h"
 #include "reference/fp_imge.h"
 #include "shell/image_laterale.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
-#include <QGroupBox>
+#include <QGridLayout>
+#include <QLabel>
 #include <QPushButton>
 
 namespace talor {
@@ -44,22 +47,28 @@ Affichage::Affichage(const Installation& installation, QWidget* parent)
     setCancel({quitter});
 }
 
-QGroupBox* Affichage::ajouterPanneau(Cote cote)
+QWidget* Affichage::ajouterPanneau(Cote cote)
 {
     const int rang = static_cast<int>(cote);
-    auto* cadre = new QGroupBox(cote == Cote::Gauche ? u"A gauche"_s : u"A droite"_s);
     const Panneau panneau{cote, named(new ImageLaterale, u"Image2", rang),
+                          named(controls::hintLabel(u"Aucune image"_s), u"Label1", rang),
                           named(new QCheckBox(u"Montrer cette image"_s), u"Check1", rang)};
-    panneau.image->setMinimumSize(tailleApercu);
-    QSizePolicy place = panneau.image->sizePolicy();
-    place.setRetainSizeWhenHidden(true);
-    panneau.image->setSizePolicy(place);
-    auto* choix = named(new QPushButton(u"Choisir..."_s), u"SSCommand2", rang);
+    auto* choix = named(new QPushButton(controls::icon(u"image"), u"Choisir..."_s), u"SSCommand2", rang);
+    panneau.vide->setAlignment(Qt::AlignCenter);
 
-    auto* colonne = new QVBoxLayout(cadre);
-    colonne->addWidget(panneau.image, 1, Qt::AlignHCenter);
-    colonne->addWidget(panneau.montrer);
-    colonne->addWidget(choix);
+    auto* cadre = new QFrame;
+    controls::setRole(cadre, controls::Role::Panel);
+    auto* grille = new QGridLayout(cadre);
+    grille->setContentsMargins(16, 12, 16, 16);
+    grille->setVerticalSpacing(10);
+    grille->setRowMinimumHeight(1, tailleApercu.height());
+    grille->setColumnMinimumWidth(0, tailleApercu.width());
+    grille->addWidget(controls::sectionLabel(cote == Cote::Gauche ? u"A gauche"_s : u"A droite"_s), 0, 0);
+    // Both in one place: the one shows where the other does not.
+    grille->addWidget(panneau.image, 1, 0, Qt::AlignHCenter);
+    grille->addWidget(panneau.vide, 1, 0);
+    grille->addWidget(panneau.montrer, 2, 0);
+    grille->addWidget(choix, 3, 0);
     connect(choix, &QPushButton::clicked, this, [this, panneau] { choisir(panneau); });
     connect(panneau.montrer, &QCheckBox::clicked, this, [this, panneau](bool montree) {
         montrerSi(this, ecarterImage(m_installation, panneau.cote, !montree));
@@ -72,6 +81,7 @@ QGroupBox* Affichage::ajouterPanneau(Cote cote)
 void Affichage::actualiser(const Panneau& panneau)
 {
     panneau.image->charger(imageLaterale(m_installation, panneau.cote));
+    panneau.vide->setVisible(panneau.image->estVide());
     panneau.montrer->setEnabled(FichierExiste(cheminImage(m_installation, panneau.cote)));
     panneau.montrer->setChecked(panneau.montrer->isEnabled() && !estEcartee(m_installation, panneau.cote));
 }

@@ -4,7 +4,7 @@
 #include "shell/images_laterales.h"
 
 class QCheckBox;
-class QGroupBox;
+class QLabel;
 
 namespace talor {
 
@@ -23,10 +23,11 @@ private:
     {
         Cote cote;
         ImageLaterale* image;
+        QLabel* vide;
         QCheckBox* montrer;
     };
 
-    QGroupBox* ajouterPanneau(Cote cote);
+    QWidget* ajouterPanneau(Cote cote);
     void actualiser(const Panneau& panneau);
     void choisir(const Panneau& panneau);
 

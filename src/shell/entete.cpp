@@ -67,7 +67,7 @@ Entete::Entete(QWidget* parent)
     , m_ligne(named(ligne(1.2, QFont::Normal, controls::colour::navy), u"Label1", 1))
     , m_annee(named(ligne(1.5, QFont::Bold, controls::colour::navy), u"Label1", 2))
     , m_date(named(ligne(1.0, QFont::Normal, controls::colour::navy), u"LabelDate"))
-    , m_guide(named(new QPushButton(controls::icon(u"pdf"), u"Guide"_s), u"SSCommand1"))
+    , m_guide(named(new QPushButton(controls::icon(u"aide"), u"Guide"_s), u"SSCommand1"))
     , m_port(std::make_unique<QSvgRenderer>(u":/talor/port.svg"_s))
 {
     m_guide->setToolTip(u"Ouvrir le guide de l'utilisateur (PDF)"_s);

@@ -13,6 +13,7 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 
 namespace talor {
@@ -40,6 +41,7 @@ Form1::Form1(Exercice& exercice)
     , m_facturation(new PanneauFacturation)
 {
     named(this, u"Form1");
+    resize(screen()->availableSize() * 9 / 10); // where it is not maximised
     setWindowTitle(u"   TALOR  Version  2.1      (Révisé le 06/06/2022"_s);
     setMenuBar(m_menus);
     m_pages->addWidget(m_raccourcis);

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QShortcut>
 
 namespace talor {
 
@@ -18,7 +19,8 @@ namespace {
 constexpr int iconeMin = 28;
 constexpr int iconeMax = 56;
 constexpr int marge = 14;
-constexpr int halo = 10;            ///< from a picture to the edge of the disc behind it
+constexpr int halo = 10; ///< from a picture to the edge of the disc behind it
+constexpr int ecart = 8;
 constexpr int hauteurBas = 44;      ///< the lowest button
 constexpr int hauteurEmpilee = 112; ///< from which the picture stands over the caption
 constexpr qreal rayon = 10;
@@ -41,7 +43,8 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setShortcut(touche);
+    // Not the button's own shortcut, which plays the press on screen first and acts after it.
+    connect(new QShortcut(touche, this), &QShortcut::activated, this, &QAbstractButton::click);
 
     QFont police = m_libelle->font();
     police.setPointSizeF(police.pointSizeF() * 1.15);
@@ -51,9 +54,10 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     for (QLabel* label : {m_image, m_libelle, m_touche})
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
 
+    m_rangee->setSpacing(0);
     m_rangee->addStretch(1);
     m_rangee->addWidget(m_image);
-    m_rangee->addSpacing(halo + 4);
+    m_rangee->addSpacing(halo + ecart);
     m_rangee->addWidget(m_libelle);
     m_rangee->addStretch(1);
     montrerIcone(iconeMin);
@@ -77,11 +81,17 @@ QSize GrandBouton::sizeHint() const
     return minimumSizeHint();
 }
 
+/// In a line, which is the lower and the wider of the two ways to lay it out.
 QSize GrandBouton::minimumSizeHint() const
 {
-    const int largeurTouche = m_touche->sizeHint().width() + marge;
-    return {2 * (marge + halo) + iconeMin + m_libelle->sizeHint().width() + largeurTouche,
-            qMax(hauteurBas, m_libelle->sizeHint().height() + marge)};
+    const QSize libelle = m_libelle->sizeHint();
+    return {marge + halo + iconeMin + halo + ecart + libelle.width() + placeTouche(),
+            qMax(hauteurBas, libelle.height() + marge)};
+}
+
+int GrandBouton::placeTouche() const
+{
+    return ecart + m_touche->sizeHint().width() + marge;
 }
 
 /// Puts the picture over the caption or beside it, and the key into the corner.
@@ -91,7 +101,8 @@ void GrandBouton::disposer()
     m_rangee->setDirection(empile ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     m_rangee->setAlignment(m_image, empile ? Qt::AlignHCenter : Qt::AlignVCenter);
     m_rangee->setAlignment(m_libelle, empile ? Qt::AlignHCenter : Qt::AlignVCenter);
-    m_rangee->setContentsMargins(empile ? QMargins(marge, marge, marge, 0) : QMargins(marge + halo, 0, marge, 0));
+    m_rangee->setContentsMargins(empile ? QMargins(marge, marge, marge, 0)
+                                        : QMargins(marge + halo, 0, placeTouche(), 0));
     // Captions of a column begin at one place.
     m_rangee->setStretch(0, m_disposition == Disposition::EnLigne ? 0 : 1);
     montrerIcone(empile ? qBound(iconeMin, height() / 4, iconeMax) : iconeMin);

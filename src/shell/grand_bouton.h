@@ -48,6 +48,7 @@ protected:
 
 private:
     void disposer();
+    int placeTouche() const;
     void montrerIcone(int cote);
 
     QIcon m_icone;
