@@ -148,13 +148,23 @@ QToolButton* Apercu::addButton(QHBoxLayout* bar, const QString& name, const QStr
     button->setIcon(previewIcon(name));
     button->setIconSize(QSize(20, 20));
     button->setText(caption);
-    button->setToolButtonStyle(caption.isEmpty() ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+    if (!caption.isEmpty())
+        m_captioned.append(button);
     button->setToolTip(tip);
     button->setAccessibleName(tip);
     button->setMinimumSize(barHeight, barHeight);
     button->setFocusPolicy(Qt::TabFocus);
     bar->addWidget(button);
     return button;
+}
+
+/// On a narrow screen pictures alone are better than captions that are cut.
+void Apercu::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    const bool isNarrow = width() < fontMetrics().averageCharWidth() * 105;
+    for (QToolButton* button : std::as_const(m_captioned))
+        button->setToolButtonStyle(isNarrow ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
 }
 
 void Apercu::addPageControls(QHBoxLayout* bar)

@@ -42,6 +42,9 @@ public:
     void imprimer();
     void enregistrer();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QWidget* makeBar();
     QToolButton* addButton(QHBoxLayout* bar, const QString& name, const QString& caption, const QString& tip);
@@ -58,6 +61,7 @@ private:
     QSpinBox* m_page = nullptr;
     QLabel* m_zoom = nullptr;
     QLabel* m_notice;
+    QList<QToolButton*> m_captioned; ///< buttons that bear a caption where there is room
     QToolButton *m_first = nullptr, *m_previous = nullptr, *m_next = nullptr, *m_last = nullptr;
     QToolButton *m_pageWidth = nullptr, *m_wholePage = nullptr;
 };

@@ -11,9 +11,12 @@ namespace reports {
 class Scanner
 {
 public:
-    explicit Scanner(QStringView text)
-        : m_rest(text)
+    explicit Scanner(const QString& text)
+        : m_text(text)
+        , m_rest(m_text)
     {}
+    Scanner(const Scanner&) = delete;
+    Scanner& operator=(const Scanner&) = delete;
 
     bool atEnd();
     /// A sign such as ">=" or "(".
@@ -29,7 +32,8 @@ public:
 private:
     void skipBlanks();
 
-    QStringView m_rest;
+    QString m_text;
+    QStringView m_rest; ///< what is still to be read of m_text
 };
 
 /// True when the name is a table and a field, joined by a point, and nothing that could be anything else.

@@ -27,18 +27,6 @@ void ColumnIndex::build(const QStringList& names)
     }
 }
 
-int ColumnIndex::find(quint64 hash) const
-{
-    if (m_places.empty())
-        return -1;
-    const std::size_t mask = m_places.size() - 1;
-    for (std::size_t place = hash & mask; m_places[place].column >= 0; place = (place + 1) & mask) {
-        if (m_places[place].hash == hash)
-            return m_places[place].column;
-    }
-    return -1;
-}
-
 quint64 tableBit(const Catalogue& catalogue, const Table* table)
 {
     return quint64(1) << ((table - catalogue.tables().constData()) % 64);

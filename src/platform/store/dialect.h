@@ -12,7 +12,15 @@ class ColumnIndex
 {
 public:
     void build(const QStringList& names);
-    int find(quint64 hash) const; ///< -1 when there is none
+    /// -1 when there is none.
+    int find(quint64 hash) const
+    {
+        const std::size_t mask = m_places.size() - 1;
+        std::size_t place = hash & mask;
+        while (m_places[place].column >= 0 && m_places[place].hash != hash)
+            place = (place + 1) & mask;
+        return m_places[place].column;
+    }
 
 private:
     struct Place
@@ -20,7 +28,7 @@ private:
         quint64 hash = 0;
         int column = -1;
     };
-    std::vector<Place> m_places;
+    std::vector<Place> m_places = std::vector<Place>(1); ///< one free place at least
 };
 
 struct Column

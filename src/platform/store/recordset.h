@@ -11,9 +11,18 @@ namespace store {
 struct NameHash
 {
     static constexpr quint64 start = 14695981039346656037u;
-    static constexpr quint64 add(quint64 hash, char c)
+    Q_ALWAYS_INLINE static constexpr quint64 add(quint64 hash, char c)
     {
         return (hash ^ quint64(uchar(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c))) * 1099511628211u;
+    }
+    /// Written out letter by letter and inline, so that the compiler is left with a number.
+    template<std::size_t N, std::size_t... I>
+    Q_ALWAYS_INLINE static constexpr quint64 ofLiteral(const char (&name)[N], std::index_sequence<I...>)
+    {
+        quint64 hash = start;
+        bool inside = true; // a text in a larger array ends at its zero
+        ((inside = inside && name[I] != 0, hash = inside ? add(hash, name[I]) : hash), ...);
+        return hash;
     }
     static constexpr quint64 of(const char* name)
     {
@@ -40,8 +49,9 @@ public:
     struct FieldRef
     {
         template<std::size_t N>
-        FieldRef(const char (&literal)[N])
-            : FieldRef(literal, std::make_index_sequence<N - 1>())
+        Q_ALWAYS_INLINE FieldRef(const char (&literal)[N])
+            : name(literal)
+            , hash(NameHash::ofLiteral(literal, std::make_index_sequence<N - 1>()))
         {}
         template<class T>
         requires(std::same_as<T, const char*> || std::same_as<T, char*>) FieldRef(const T& fieldName)
@@ -52,23 +62,11 @@ public:
             : FieldRef(fieldName.constData())
         {}
         FieldRef(int fieldPosition)
-            : position(fieldPosition)
+            : hash(quint64(fieldPosition))
         {}
 
-        const char* name = nullptr;
-        quint64 hash = 0;
-        int position = -1;
-
-    private:
-        template<std::size_t N, std::size_t... I>
-        FieldRef(const char (&literal)[N], std::index_sequence<I...>)
-            : name(literal)
-            , hash(NameHash::start)
-        {
-            // A text in a larger array ends at its zero.
-            bool inside = true;
-            ((inside = inside && literal[I] != 0, hash = inside ? NameHash::add(hash, literal[I]) : hash), ...);
-        }
+        const char* name = nullptr; ///< null: given by its position
+        quint64 hash = 0;           ///< of the name; or the position
     };
 
     Recordset(); ///< closed: only `isOpen` may be asked

@@ -8,11 +8,22 @@ using namespace Qt::StringLiterals;
 
 namespace store {
 
+namespace {
+
+/// True for the fields that the file keeps as whole numbers only.
+bool isWhole(CellType type)
+{
+    return type == FieldType::Long || type == FieldType::Counter || type == FieldType::Integer ||
+           type == FieldType::YesNo;
+}
+
+} // namespace
+
 int Recordset::Impl::column(FieldRef field) const
 {
-    const int found = field.name ? query->names.find(field.hash) : field.position;
+    const int found = field.name ? query->names.find(field.hash) : int(field.hash);
     if (found < 0 || found >= int(query->columns.size())) {
-        const QString shown = field.name ? QString::fromUtf8(field.name) : QString::number(field.position);
+        const QString shown = field.name ? QString::fromUtf8(field.name) : QString::number(int(field.hash));
         throw Error(Error::UnknownField, u"Le champ « %1 » n'existe pas"_s.arg(shown));
     }
     return found;
@@ -47,6 +58,8 @@ void Recordset::Impl::needWritable() const
 /// Gives up what was set and not written.
 void Recordset::Impl::drop()
 {
+    if (editing == No)
+        return;
     editing = No;
     changes.clear();
 }
@@ -108,8 +121,7 @@ qint64 Recordset::integer(FieldRef field) const
 {
     Impl& d = open();
     const int at = d.column(field);
-    sqlite3_stmt* const row = d.readyRow();
-    if (row && sqlite3_column_type(row, at + d.offset()) == SQLITE_INTEGER)
+    if (sqlite3_stmt* row = isWhole(d.query->columns[std::size_t(at)].type) ? d.readyRow() : nullptr)
         return sqlite3_column_int64(row, at + d.offset());
     return integerOf(d.cell(at));
 }
@@ -118,8 +130,8 @@ double Recordset::real(FieldRef field) const
 {
     Impl& d = open();
     const int at = d.column(field);
-    sqlite3_stmt* const row = d.readyRow();
-    if (row && sqlite3_column_type(row, at + d.offset()) == SQLITE_FLOAT)
+    const CellType type = d.query->columns[std::size_t(at)].type;
+    if (sqlite3_stmt* row = type == FieldType::Double || type == FieldType::Single ? d.readyRow() : nullptr)
         return sqlite3_column_double(row, at + d.offset());
     return realOf(d.cell(at));
 }

@@ -15,6 +15,8 @@ namespace store {
 
 namespace {
 
+constexpr qsizetype isoLength = 10; ///< yyyy-MM-dd
+
 [[noreturn]] void refuse(const QVariant& value, const QString& place)
 {
     throw Error(Error::BadValue, u"La valeur « %1 » ne convient pas %2"_s.arg(value.toString(), place));
@@ -220,12 +222,12 @@ QString textOf(const Cell& cell, CellType type)
     case Cell::Text:
         break;
     }
-    const QString text = QString::fromUtf8(cell.bytes);
-    if (type == FieldType::Date) {
-        const QString shown = displayDate(text);
-        return shown.isEmpty() ? text : shown;
+    if (type == FieldType::Date && cell.bytes.size() == isoLength && cell.bytes[4] == '-') {
+        const char* iso = cell.bytes.data();
+        const char shown[isoLength] = {iso[8], iso[9], '/', iso[5], iso[6], '/', iso[0], iso[1], iso[2], iso[3]};
+        return QString::fromLatin1(shown, isoLength);
     }
-    return text;
+    return QString::fromUtf8(cell.bytes);
 }
 
 double realOf(const Cell& cell)
