@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QShortcut>
 
 namespace talor {
 
@@ -41,7 +42,8 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    setShortcut(touche);
+    // Not the button's own shortcut, which plays the press on screen first and acts after it.
+    connect(new QShortcut(touche, this), &QShortcut::activated, this, &QAbstractButton::click);
 
     QFont police = m_libelle->font();
     police.setPointSizeF(police.pointSizeF() * 1.15);
