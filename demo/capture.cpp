@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QKeySequence>
+#include <QLabel>
 #include <QTest>
 #include <QTimer>
 
@@ -16,24 +17,30 @@ constexpr int pas = 15;          // milliseconds between two steps
 constexpr int attente = 3000;    // milliseconds until a window must stand
 constexpr int sortiesPolies = 5; // times that a dialog is asked to close before it is told to
 
+QWidget* cible()
+{
+    if (QWidget* const champ = QApplication::focusWidget())
+        return champ;
+    if (QWidget* const modale = QApplication::activeModalWidget())
+        return modale;
+    return QApplication::activeWindow();
+}
+
 } // namespace
 
 void taper(const QString& touche)
 {
-    QWidget* cible = QApplication::focusWidget();
-    if (!cible)
-        cible = QApplication::activeModalWidget();
-    if (!cible)
-        cible = QApplication::activeWindow();
-    if (!cible)
-        return;
     if (touche.startsWith(u'<') && touche.endsWith(u'>') && touche.size() > 2) {
         const QKeyCombination combinaison = QKeySequence::fromString(touche.mid(1, touche.size() - 2))[0];
-        QTest::keyClick(cible, combinaison.key(), combinaison.keyboardModifiers());
+        QTest::keyClick(cible(), combinaison.key(), combinaison.keyboardModifiers());
         return;
     }
-    for (const QChar caractere : touche)
-        QTest::sendKeyEvent(QTest::Click, cible, Qt::Key_unknown, QString(caractere), Qt::NoModifier);
+    for (const QChar c : touche) {
+        if (c.unicode() < 0x80)
+            QTest::keyClick(cible(), c.toLatin1());
+        else
+            QTest::sendKeyEvent(QTest::Click, cible(), Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
 }
 
 /// One picture under way. A key may open a dialog and return only once it is closed, so each step is a timer of its own
@@ -88,8 +95,21 @@ private:
             return;
         }
         m_etape = Etape::Fermeture;
-        if (!devant->grab().save(m_chemin))
+        const QString attendue = m_ecran.nom.section(u'-', 0, 0);
+        if (devant->objectName() != attendue)
+            m_faute =
+                u"à la place de « %1 » se montre « %2 », %3"_s.arg(m_ecran.nom, devant->objectName(), texte(devant));
+        else if (!devant->grab().save(m_chemin))
             m_faute = u"l'image « "_s + m_chemin + u" » n'a pu être écrite"_s;
+    }
+
+    /// What a window says: the message of a box that was not expected, else its title.
+    static QString texte(const QWidget* devant)
+    {
+        QStringList textes;
+        for (const QLabel* etiquette : devant->findChildren<QLabel*>())
+            textes << etiquette->text();
+        return devant->objectName() == u"Message" ? textes.join(u' ').simplified() : devant->windowTitle();
     }
 
     void fermer(QWidget* modale)

@@ -12,13 +12,15 @@ namespace talor::demo {
 /// One picture: a window opened as its user would open it, and brought by keys to the state that is to be seen.
 struct Ecran
 {
-    QString nom;                  ///< of the file, without ".png"
+    /// Of the file, without ".png": the object name of the window to be seen, and behind "-" what it shows.
+    QString nom;
     std::function<void()> ouvrir; ///< a modal dialog's returns once the dialog is closed
-    QStringList touches = {};     ///< "<Alt+N>" or "<Return>" presses a key, any other text is typed
+    QStringList touches = {};     ///< what `taper` takes, one by one, before the picture
     bool modale = true;           ///< false: the main window itself is taken
 };
 
-/// Types as a person would, into what has the focus. A key that opens a dialog returns once that dialog is closed.
+/// Types as a person would: "<Alt+N>" or "<Return>" presses a key, any other text is typed. Goes
+/// into what has the focus. A key that opens a dialog returns once that dialog is closed.
 void taper(const QString& touche);
 
 /// Takes pictures of windows. Each picture is the front window once the keys are pressed, and whatever was opened for

@@ -4,6 +4,7 @@
 #include "core/report_texts.h"
 #include "invoicing/invoice_register.h"
 #include "platform/reports/paint.h"
+#include "shell/listes.h"
 
 namespace talor::demo {
 
@@ -45,33 +46,20 @@ Resultat<QList<Imprime>> Edition::listes()
 {
     struct Liste
     {
-        QString modele, fichier, contenu, classement;
-        QStringList tri;
+        QString fichier, contenu;
+        Etat etat;
     };
-    const QString parNumero = u"Classement sur N° d'ordre"_s;
-    const QString alphabetique = u"Classement alphabétique"_s;
     const Liste listes[] = {
-        {u"L_CLIENT.RPT"_s, u"L_CLIENT_numero.pdf"_s, u"clients par numéro"_s, parNumero, {u"+ {Clients.ordre} "_s}},
-        {u"L_CLIENT.RPT"_s,
-         u"L_CLIENT_alphabetique.pdf"_s,
-         u"clients par nom"_s,
-         alphabetique,
-         {u"+ {Clients.nom} "_s, u"+ {Clients.prenom} "_s}},
-        {u"L_POISSN.RPT"_s, u"L_POISSN_numero.pdf"_s, u"poissons par numéro"_s, parNumero, {u"+ {Poissons.ordre} "_s}},
-        {u"L_POISSN.RPT"_s,
-         u"L_POISSN_alphabetique.pdf"_s,
-         u"poissons par nom"_s,
-         alphabetique,
-         {u"+ {Poissons.denom} "_s}},
-        {u"L_ARMATR.RPT"_s, u"L_ARMATR.pdf"_s, u"armateurs"_s, {}, {}},
-        {u"L_CHALUT.RPT"_s, u"L_CHALUT.pdf"_s, u"embarcations"_s, {}, {}},
+        {u"L_CLIENT_numero.pdf"_s, u"clients par numéro"_s, listeClients(Classement::OrdreManuel)},
+        {u"L_CLIENT_alphabetique.pdf"_s, u"clients par nom"_s, listeClients(Classement::OrdreAlphabetique)},
+        {u"L_POISSN_numero.pdf"_s, u"poissons par numéro"_s, listePoissons(Classement::OrdreManuel)},
+        {u"L_POISSN_alphabetique.pdf"_s, u"poissons par nom"_s, listePoissons(Classement::OrdreAlphabetique)},
+        {u"L_ARMATR.pdf"_s, u"armateurs"_s, listeArmateurs()},
+        {u"L_CHALUT.pdf"_s, u"embarcations"_s, listeChalutiers()},
     };
     QList<Imprime> imprimes;
     for (const Liste& liste : listes) {
-        Etat etat = {.modele = liste.modele, .formule = {}, .tri = liste.tri, .remplir = {}, .titre = {}};
-        if (!liste.classement.isEmpty())
-            etat.remplir = [&](Exercice& exercice) { ecrireTextes(exercice, {{"ch4", liste.classement}}); };
-        const Resultat<reports::Document> document = ComposerEtat(m_exercice, etat);
+        const Resultat<reports::Document> document = ComposerEtat(m_exercice, liste.etat);
         if (!document)
             return document.refus();
         imprimes << ecrire(*document, liste.fichier, u"liste des "_s + liste.contenu);

@@ -134,6 +134,8 @@ std::optional<Refus> ecrireResume(Exercice& exercice, const Saison& saison, cons
                  .arg(saison.embarcations.size())
                  .arg(saison.clients.size())
                  .arg(saison.categories.size());
+    if (!resume.scenes.isEmpty())
+        texte += u"\nAu clavier, dans les fenêtres mêmes :\n  "_s + resume.scenes.join(u"\n  "_s) + u'\n';
     texte += journees(exercice) + embarcations(exercice) + clients(exercice) + verification(resume) +
              fichiers(resume, dossier, exercice);
 

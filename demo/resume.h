@@ -8,6 +8,7 @@ namespace talor::demo {
 /// What the demonstration leaves behind.
 struct Resume
 {
+    QStringList scenes; ///< what was done in the windows themselves
     QList<Imprime> documents;
     QStringList images;
     QStringList ecarts; ///< differences found in the books

@@ -7,6 +7,7 @@
 #include <QBoxLayout>
 #include <QImageReader>
 #include <QPushButton>
+#include <QShortcut>
 #include <QToolButton>
 
 namespace talor {
@@ -40,7 +41,7 @@ CadreImage::CadreImage(QWidget* parent)
     named(this, u"SSFrame2");
     controls::setRole(this, controls::Role::Panel);
     m_image->setIconSize(place);
-    m_image->setShortcut(Qt::CTRL | Qt::Key_I);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_I, m_image), &QShortcut::activated, m_image, &QToolButton::click);
     m_image->setToolTip(u"Choisir une image (Ctrl+I)"_s);
     m_image->setAccessibleName(u"Image du produit"_s);
     auto* supprimer = named(new QPushButton(u"Supprimer l'&image"_s), u"SSCommand1");

@@ -88,9 +88,9 @@ void Familles::executer(int index)
 {
     switch (index) {
     case Nouveau:
-        return commencer(Saisie::Nouvelle);
+        return nouvelle();
     case Modifier:
-        return commencer(Saisie::Modification);
+        return modifier();
     case Supprimer:
         return supprimer();
     case Quitter:
@@ -126,17 +126,24 @@ void Familles::reprendreSelection()
 
 void Familles::commencer(Saisie saisie)
 {
-    if (saisie == Saisie::Modification && !selection())
-        return;
-    // What was typed over the selection without a command is what begins the new category.
-    const bool tapee = m_texte->hasFocus() && m_texte->isModified();
     m_saisie = saisie;
     m_cadre->setTitle(saisie == Saisie::Nouvelle ? u"Nouvelle Famille"_s : u"Modification"_s);
     m_annuler->setEnabled(true);
-    if (saisie == Saisie::Modification)
-        reprendreSelection();
-    else if (!tapee)
-        m_texte->clear();
+}
+
+void Familles::nouvelle()
+{
+    commencer(Saisie::Nouvelle);
+    m_texte->clear();
+    m_texte->setFocus();
+}
+
+void Familles::modifier()
+{
+    if (!selection())
+        return;
+    commencer(Saisie::Modification);
+    reprendreSelection();
     m_texte->setFocus();
 }
 

@@ -39,6 +39,8 @@ private:
     std::optional<Categorie> selection() const;
     void reprendreSelection();
     void commencer(Saisie saisie);
+    void nouvelle();
+    void modifier();
     void accepter();
     void abandonner();
     void supprimer();

@@ -137,7 +137,8 @@ QToolButton* iconButton(QStringView name, const QString& spoken, const QKeySeque
     button->setAccessibleName(spoken);
     button->setToolTip(spoken);
     if (!shortcut.isEmpty()) {
-        button->setShortcut(shortcut);
+        // At once: the button's own shortcut would press it for a tenth of a second first.
+        QObject::connect(new QShortcut(shortcut, button), &QShortcut::activated, button, &QToolButton::click);
         button->setToolTip(u"%1 (%2)"_s.arg(spoken, shortcut.toString(QKeySequence::NativeText)));
     }
     return button;

@@ -1,0 +1,44 @@
+#include "demo/ecrans.h"
+
+#include "shell/form1.h"
+
+namespace talor::demo {
+
+using namespace Qt::StringLiterals;
+
+QList<Ecran> ecrans(Form1& form1)
+{
+    /// A function of the menu, by the name of its entry.
+    const auto menu = [&](const QString& entree) { return [&form1, entree] { form1.executer(entree); }; };
+
+    return {
+        {u"Form1"_s, [] {}, {}, false},
+        {u"Form1-facturation"_s, menu(u"MFACT"_s), {}, false},
+        {u"Message-fin"_s, [&] { form1.close(); }},
+
+        {u"J_PROD"_s, menu(u"mnu_sect"_s), {u"<Down>"_s, u"<Down>"_s}},
+        {u"J_PROD-nouveau"_s, menu(u"mnu_sect"_s), {u"<Ins>"_s, u"50"_s, u"<Return>"_s, u"Squille"_s}},
+        {u"Message-numero"_s,
+         menu(u"mnu_sect"_s),
+         {u"<Ins>"_s, u"1"_s, u"<Return>"_s, u"Squille"_s, u"<Ctrl+Return>"_s}},
+        {u"J_Armateurs"_s, menu(u"mnu_arma"_s)},
+        {u"J_Armateurs-modification"_s, menu(u"mnu_arma"_s), {u"<F2>"_s}},
+        {u"j_Chalutiers"_s, menu(u"mnu_Chalutiers"_s)},
+        {u"j_Chalutiers-modification"_s, menu(u"mnu_Chalutiers"_s), {u"<Down>"_s, u"<F2>"_s}},
+        {u"j_Client"_s, menu(u"mnu_art"_s), {u"<PgDown>"_s}},
+        {u"j_Client-modification"_s, menu(u"mnu_art"_s), {u"<Down>"_s, u"<F2>"_s}},
+        {u"Message-suppression"_s, menu(u"mnu_art"_s), {u"<Del>"_s}},
+
+        {u"F_Classm"_s, menu(u"mnu_LCLIENTS"_s)},
+        {u"Apercu-clients"_s, menu(u"mnu_LCLIENTS"_s), {u"<Return>"_s}},
+        {u"Apercu-armateurs"_s, menu(u"mnu_LArmateurs"_s)},
+        {u"Apercu-embarcations"_s, menu(u"mnu_Lchalutiers"_s)},
+
+        {u"Affichage"_s, menu(u"mnu_images"_s)},
+        {u"Mecano"_s, menu(u"mnu_mecano"_s)},
+        {u"F_HLP"_s, menu(u"mnu_hlp"_s)},
+        {u"APropos"_s, menu(u"mnu_aprpos"_s)},
+    };
+}
+
+} // namespace talor::demo
