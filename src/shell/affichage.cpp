@@ -63,7 +63,7 @@ QWidget* Affichage::ajouterPanneau(Cote cote)
     grille->setVerticalSpacing(10);
     grille->setRowMinimumHeight(1, tailleApercu.height());
     grille->setColumnMinimumWidth(0, tailleApercu.width());
-    grille->addWidget(controls::sectionLabel(cote == Cote::Gauche ? u"A gauche"_s : u"A droite"_s), 0, 0);
+    grille->addWidget(controls::sectionLabel(cote == Cote::Gauche ? u"À gauche"_s : u"À droite"_s), 0, 0);
     // Both in one place: the one shows where the other does not.
     grille->addWidget(panneau.image, 1, 0, Qt::AlignHCenter);
     grille->addWidget(panneau.vide, 1, 0);

@@ -55,7 +55,7 @@ void montrerAide(QWidget* parent)
 
 void montrerAPropos(QWidget* parent, const Exercice& exercice)
 {
-    controls::Dialog dialogue(u"APropos", u"A propos de TALOR"_s, parent);
+    controls::Dialog dialogue(u"APropos", u"À propos de TALOR"_s, parent);
     auto* embleme = new QLabel;
     embleme->setPixmap(
         controls::applicationIcon().pixmap(QSize(coteEmbleme, coteEmbleme), dialogue.devicePixelRatioF()));
