@@ -36,7 +36,8 @@ Mecano::Mecano(Exercice& exercice, QWidget* parent)
     , m_exercice(exercice)
     , m_fichiers(named(new controls::Grid, u"File1"))
 {
-    m_fichiers->setColumns({{u"Fichier"_s, 1700, Qt::AlignLeft, true}, {u"Taille"_s, 1200, Qt::AlignRight}, {u"Modifié le"_s, 2100}});
+    m_fichiers->setColumns(
+        {{u"Fichier"_s, 1700, Qt::AlignLeft, true}, {u"Taille"_s, 1200, Qt::AlignRight}, {u"Modifié le"_s, 2100}});
     lister();
 
     body()->addWidget(controls::hintLabel(

@@ -63,7 +63,7 @@ QLabel* ligne(qreal corps, QFont::Weight graisse, QColor encre)
 
 Entete::Entete(QWidget* parent)
     : QWidget(parent)
-    , m_nom(named(ligne(1.9, QFont::Bold, controls::colour::navy), u"Label1", 0))
+    , m_nom(named(ligne(1.7, QFont::Bold, controls::colour::navy), u"Label1", 0))
     , m_ligne(named(ligne(1.2, QFont::Normal, controls::colour::navy), u"Label1", 1))
     , m_annee(named(ligne(1.5, QFont::Bold, controls::colour::navy), u"Label1", 2))
     , m_date(named(ligne(1.0, QFont::Normal, controls::colour::navy), u"LabelDate"))
