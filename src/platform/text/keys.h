@@ -7,16 +7,16 @@
 /// without its selection, which the key would replace.
 namespace text {
 
-/// Digits pass, and so do the control keys and the blank.
+/// `ToucheChiffre`: digits pass, and so do the control keys and the blank.
 bool acceptsDigit(int key);
 
-/// The key to insert into an amount, or 0 when it is swallowed. A comma becomes the point; a second point and a blank
-/// are swallowed; the minus sign passes anywhere.
+/// `ToucheMontant`: the key to insert into an amount, or 0 when it is swallowed. A comma becomes the point; a second
+/// point and a blank are swallowed; the minus sign passes anywhere.
 int filterAmount(const QString& current, int key);
 
-/// True when a date text of this length takes the key. Backspace always passes.
+/// `ToucheDate`: true when a date text of this length takes the key. Backspace always passes.
 bool acceptsDateKey(qsizetype length, int key);
-/// The date text after a typed key: a bar is added behind the day and behind the month.
+/// `BarreDate`: the date text after a typed key: a bar is added behind the day and behind the month.
 QString barDate(const QString& text);
 
 /// The letters a to z raised to capitals. Accented letters are left as typed.
