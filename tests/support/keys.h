@@ -113,7 +113,7 @@ private:
     {
         static constexpr const char* taken = "takenByTest";
         auto* dialog = dynamic_cast<Wanted*>(QApplication::activeModalWidget());
-        if (state.opened || !dialog || !dialog->isVisible() || dialog->property(taken).toBool())
+        if (state.opened || !dialog || !dialog->isActiveWindow() || dialog->property(taken).toBool())
             return;
         state.opened = true;
         dialog->setProperty(taken, true);
