@@ -1,8 +1,8 @@
 #include "invoicing/invoice_register.h"
 
 #include "core/helpers.h"
+#include "core/typed_dates.h"
 #include "core/words.h"
-#include "sales/typed_dates.h"
 
 namespace talor {
 

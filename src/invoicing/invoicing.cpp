@@ -1,7 +1,7 @@
 #include "invoicing/invoicing.h"
 
 #include "core/helpers.h"
-#include "sales/typed_dates.h"
+#include "core/typed_dates.h"
 
 #include <charconv>
 

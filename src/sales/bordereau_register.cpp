@@ -2,7 +2,7 @@
 
 #include "core/helpers.h"
 #include "core/report_texts.h"
-#include "sales/typed_dates.h"
+#include "core/typed_dates.h"
 
 namespace talor {
 

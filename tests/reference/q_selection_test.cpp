@@ -19,8 +19,10 @@ class SelectionTest : public testing::Test
 protected:
     void clients(int nombre)
     {
+        store::Transaction transaction(t.exercice.Base());
         for (int i = 1; i <= nombre; ++i)
             exemples.client(u"CLIENT%1"_s.arg(i, 3, 10, QChar(u'0')), u"Prénom"_s);
+        transaction.commit();
     }
 
     ExerciceTemporaire t;

@@ -1,4 +1,4 @@
-#include "sales/typed_dates.h"
+#include "core/typed_dates.h"
 
 #include "core/helpers.h"
 #include "platform/store/database.h"
