@@ -1,12 +1,16 @@
 #include "demo/ecrans.h"
 
+#include "reference/familles.h"
+#include "reference/q_date_2.h"
+#include "reference/q_mos.h"
+#include "reference/q_selection.h"
 #include "shell/form1.h"
 
 namespace talor::demo {
 
 using namespace Qt::StringLiterals;
 
-QList<Ecran> ecrans(Form1& form1)
+QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
 {
     /// A function of the menu, by the name of its entry.
     const auto menu = [&](const QString& entree) { return [&form1, entree] { form1.executer(entree); }; };
@@ -28,6 +32,14 @@ QList<Ecran> ecrans(Form1& form1)
         {u"j_Client"_s, menu(u"mnu_art"_s), {u"<PgDown>"_s}},
         {u"j_Client-modification"_s, menu(u"mnu_art"_s), {u"<Down>"_s, u"<F2>"_s}},
         {u"Message-suppression"_s, menu(u"mnu_art"_s), {u"<Del>"_s}},
+
+        {u"Familles"_s, [&] { Familles::demander(&form1, exercice); }},
+
+        {u"Q_Client"_s, [&] { Q_Client::demander(&form1, exercice); }, {u"ha"_s}},
+        {u"Q_Bateau"_s, [&] { Q_Bateau::demander(&form1, exercice); }},
+        {u"Q_Poisson"_s, [&] { Q_Poisson::demander(&form1, exercice); }},
+        {u"Q_Date_2"_s, [&] { Q_Date_2::demander(&form1); }, {u"<PgUp>"_s}},
+        {u"Q_Mos"_s, [&] { Q_Mos::demander(&form1, 11); }},
 
         {u"F_Classm"_s, menu(u"mnu_LCLIENTS"_s)},
         {u"Apercu-clients"_s, menu(u"mnu_LCLIENTS"_s), {u"<Return>"_s}},

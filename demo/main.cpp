@@ -101,7 +101,7 @@ public:
 
     void prendreEcrans()
     {
-        for (const Ecran& ecran : ecrans(m_form1))
+        for (const Ecran& ecran : ecrans(m_form1, m_exercice))
             prendre(ecran);
         annoncer(u"%1 images d'écran"_s.arg(m_images.size()));
     }
