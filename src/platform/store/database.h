@@ -69,7 +69,8 @@ private:
 };
 
 /// What a user's action writes: it stands whole after `commit`, or not at all. Destroyed without a commit it rolls
-/// back. One inside another is a savepoint of the outer one.
+/// back. One inside another is a savepoint of the outer one. It must not outlive its database.
+/// When SQLite gives a transaction up by itself (a full disk), what is written next throws `Error::Interrupted`.
 class Transaction
 {
 public:

@@ -99,8 +99,8 @@ FrenchOrder::FrenchOrder()
     for (char c = 'A'; c <= 'Z'; ++c)
         m_rank[uchar(c)] = m_rank[uchar(c | 0x20)];
 
-    for (char16_t c = 0xa0; c < m_latin.size(); ++c) {
-        const QByteArray plain = fold(QString(QChar(c))).toUtf8();
+    for (std::size_t c = 0xa0; c < m_latin.size(); ++c) {
+        const QByteArray plain = fold(QString(QChar(char16_t(c)))).toUtf8();
         const bool fits = !plain.isEmpty() && plain.size() <= 2;
         if (fits && std::all_of(plain.cbegin(), plain.cend(), [this](char p) { return p > 0 && m_rank[uchar(p)] > 0; }))
             std::copy(plain.cbegin(), plain.cend(), m_latin[c].begin());

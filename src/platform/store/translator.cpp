@@ -77,13 +77,13 @@ Translator::Clauses Translator::clauses(int first) const
 {
     struct Mark
     {
-        Word word;
         Range Clauses::*clause;
+        Word word;
         int words; ///< "group by" and "order by" have two
     };
     static constexpr Mark marks[] = {
-        {Word::From, &Clauses::from, 1},     {Word::Where, &Clauses::where, 1}, {Word::Group, &Clauses::group, 2},
-        {Word::Having, &Clauses::having, 1}, {Word::Order, &Clauses::order, 2}, {Word::Limit, &Clauses::limit, 1},
+        {&Clauses::from, Word::From, 1},     {&Clauses::where, Word::Where, 1}, {&Clauses::group, Word::Group, 2},
+        {&Clauses::having, Word::Having, 1}, {&Clauses::order, Word::Order, 2}, {&Clauses::limit, Word::Limit, 1},
     };
 
     Clauses at{};

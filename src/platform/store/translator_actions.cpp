@@ -31,7 +31,7 @@ void Translator::remove()
 {
     const int from = find({0, end()}, Word::From);
     const bool plain = from == 1 || (from == 2 && token(1).is(u"*"));
-    if (!plain)
+    if (!plain || from == end())
         fail(u"« from » y manque"_s);
     const int where = target(from + 1);
     write("delete from");

@@ -98,12 +98,11 @@ void Translator::parameter(bool nextToDate)
 
 bool Translator::writeTested(QStringView name)
 {
-    for (int i = 0; i < int(m_tested->size()); ++i) {
-        const Column& tested = (*m_tested)[std::size_t(i)];
+    for (const Column& tested : *m_tested) {
         if (name.compare(tested.name, Qt::CaseInsensitive) != 0)
             continue;
         parameter(false);
-        m_parameters.back().column = i;
+        m_parameters.back().column = int(&tested - m_tested->data());
         if (tested.type == FieldType::Text)
             write("collate FRENCH");
         return true;

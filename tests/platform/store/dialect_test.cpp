@@ -132,6 +132,16 @@ TEST_F(DialectTest, ABadQueryIsToldByItsText)
 {
     const char16_t* const table[] = {
         u"",
+        u"select",
+        u"select distinct",
+        u"select num from",
+        u"delete",
+        u"delete *",
+        u"delete from",
+        u"update",
+        u"update Clients set",
+        u"insert into",
+        u"insert into Clients values",
         u"selec num from Clients",
         u"select num from Nulle",
         u"select absent from Clients",

@@ -291,8 +291,8 @@ TEST_F(RecordsetTest, ValuesKeepTheirFieldsManner)
                                                         {"num_client", u""_s},
                                                         {"Flag_R", u"oui"_s},
                                                         {"num", 77}};
-    for (const auto& [field, value] : refused)
-        EXPECT_EQ(faultOf([&] { rows.set(field, value); }), Error::BadValue) << field;
+    for (const auto& pair : refused)
+        EXPECT_EQ(faultOf([&] { rows.set(pair.first, pair.second); }), Error::BadValue) << pair.first;
     rows.set("Total", 0.1 + 0.2);
     rows.set("Flag_R", QVariant());
     rows.update();
