@@ -43,7 +43,7 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
         {u"Q_Date_2"_s, [&] { Q_Date_2::demander(&form1); }, {u"<PgUp>"_s}},
         {u"Q_Mos"_s, [&] { Q_Mos::demander(&form1, 11); }},
         {u"Q_Filtre"_s, [&] { Q_Filtre::demander(&form1, exercice); }},
-        {u"Rech_Rap"_s, menu(u"Rech_Rap"_s), {u"ha"_s}},
+        {u"Rech_Rap"_s, menu(u"Rech_Rap"_s)},
         {u"Calclette"_s, [&] { Calclette::demanderChiffres(&form1, exercice); }},
 
         {u"F_Classm"_s, menu(u"mnu_LCLIENTS"_s)},

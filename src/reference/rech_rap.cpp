@@ -72,11 +72,12 @@ Rech_Rap::Rech_Rap(Exercice& exercice, Zoom zoom, QWidget* parent)
     , m_liste(named(new controls::Grid, u"Grid1"))
 {
     m_liste->setAccessibleName(u"Clients"_s);
-    m_liste->setColumns({{u"NOM"_s, 2400, Qt::AlignLeft, true},
-                         {u"Prénom"_s, 2000},
-                         {u"Ville"_s, 1600},
-                         {u"Famille"_s, 1700},
-                         {u"Solde"_s, 1600, Qt::AlignRight}});
+    m_liste->setColumns({{u"NOM"_s, 2200, Qt::AlignLeft, true},
+                         {u"Prénom"_s, 1700},
+                         {u"Ville"_s, 1400},
+                         {u"Famille"_s, 1500},
+                         {u"Solde"_s, 1500, Qt::AlignRight}});
+    m_liste->setMinimumWidth(780); // what is owed stands in view without scrolling
     m_liste->setInk([this](int rang, int colonne) {
         return colonne == Solde && m_clients[rang].Solde < 0 ? controls::Ink::Owed : controls::Ink::Normal;
     });
