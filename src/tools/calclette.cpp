@@ -52,6 +52,7 @@ QPushButton* grandeTouche(const QString& texte)
     touche->setAutoDefault(false);
     touche->setFocusPolicy(Qt::NoFocus);
     touche->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    touche->setMinimumWidth(110); // "Cageots" keeps its margins
     return touche;
 }
 
