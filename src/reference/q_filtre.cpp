@@ -8,7 +8,7 @@
 #include "platform/controls/named.h"
 #include "platform/controls/text_field.h"
 #include "platform/services/clock.h"
-#include "reference/q_date_2.h"
+#include "reference/saisie_date.h"
 
 #include <QBoxLayout>
 #include <QButtonGroup>
@@ -27,7 +27,6 @@ namespace talor {
 
 using namespace Qt::StringLiterals;
 using controls::named;
-using controls::TextField;
 
 namespace {
 
@@ -127,16 +126,10 @@ QWidget* Q_Filtre::creerPagePeriode(const Exercice& exercice)
     const QString legendes[] = {u"Du"_s, u"Au"_s};
     const QString departs[] = {u"01/01/%1"_s.arg(exercice.Annee), services::clock::todayText()};
     for (int i = 0; i < 2; ++i) {
-        auto* champ = named(new TextField(TextField::Kind::Date), u"Text1", i + 1);
+        const SaisieDate date = creerSaisieDate(this);
+        auto* champ = named(date.champ, u"Text1", i + 1);
+        auto* calendrier = named(date.calendrier, u"Image1", CalendrierPremiere + i);
         champ->setText(departs[i]);
-        champ->setBackspaceClears(true);
-        viderDateRefusee(champ);
-        auto* calendrier =
-            named(controls::iconButton(u"calendrier", u"Calendrier"_s), u"Image1", CalendrierPremiere + i);
-        connect(calendrier, &QToolButton::clicked, this, [this, champ] {
-            choisirDate(this, champ);
-            champ->setFocus();
-        });
         grille->addWidget(controls::captionLabel(legendes[i], champ), i, 0);
         grille->addWidget(champ, i, 1);
         grille->addWidget(calendrier, i, 2);

@@ -1,0 +1,14 @@
+#pragma once
+
+class QComboBox;
+
+namespace talor {
+
+class ListeChoix;
+
+/// A combo for clients, boats or fish, as wide as a usual name however long the names in it are.
+QComboBox* creerComboChoix();
+/// Offers the entries of a list, each at its rank, and selects the first.
+void remplirCombo(QComboBox* combo, const ListeChoix& liste);
+
+} // namespace talor
