@@ -5,6 +5,7 @@
 #include "reference/q_filtre.h"
 #include "reference/q_mos.h"
 #include "reference/q_selection.h"
+#include "sales/j_vente.h"
 #include "shell/form1.h"
 #include "tools/calclette.h"
 
@@ -17,7 +18,16 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
     /// A function of the menu, by the name of its entry.
     const auto menu = [&](const QString& entree) { return [&form1, entree] { form1.executer(entree); }; };
 
+    const auto saisie = [&] {
+        j_vente::saisir(&form1, exercice, {ModeBordereau::Existant, u"15/11/2026"_s, u"1"_s, 1, 1, u"Sidi Brahim"_s});
+    };
+
     return {
+        {u"j_vente"_s, saisie},
+        {u"j_vente-nouveau"_s, saisie, {u"<Ins>"_s, u"12"_s, u"<Return>"_s, u"3"_s, u"<Return>"_s, u"10"_s}},
+        {u"j_vente-correction"_s, saisie, {u"<Down>"_s, u"<F2>"_s}},
+        {u"j_vente-frais"_s, saisie, {u"<F6>"_s}},
+        {u"j_vente-pave"_s, saisie, {u"<Ins>"_s, u"<F7>"_s, u"12"_s, u"<Return>"_s}},
         {u"Form1"_s, [] {}, {}, false},
         {u"Form1-facturation"_s, menu(u"MFACT"_s), {}, false},
         {u"Message-fin"_s, [&] { form1.close(); }},

@@ -27,6 +27,9 @@ namespace {
 
 constexpr QSize tailleFenetre(1366, 768);
 
+/// No screen, of the size of a small one.
+constexpr char sansEcran[] = "offscreen:configfile=" DEMO_SOURCES "/ecran.json";
+
 /// What ends the demonstration: a French sentence.
 struct Echec
 {
@@ -147,7 +150,7 @@ int jouerSansEcran(const QDir& dossier)
 {
     QProcess jeu;
     QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
-    environnement.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    environnement.insert(u"QT_QPA_PLATFORM"_s, QString::fromLatin1(sansEcran));
     jeu.setProcessEnvironment(environnement);
     jeu.setProcessChannelMode(QProcess::ForwardedChannels);
     jeu.start(QCoreApplication::applicationFilePath(), {dossier.path()});
@@ -201,7 +204,7 @@ bool demandeOuverture(int argc, char** argv)
 int main(int argc, char** argv)
 {
     if (!demandeOuverture(argc, argv)) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", sansEcran);
         qInstallMessageHandler(taireSansEcran);
     }
     Application application(argc, argv);

@@ -3,14 +3,26 @@
 #include "sales/lookups.h"
 
 #include <QComboBox>
+#include <QWheelEvent>
 
 namespace talor {
+
+namespace {
+
+/// A wheel turned over the list in passing changes no client.
+class ComboChoix : public QComboBox
+{
+protected:
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+};
+
+} // namespace
 
 QComboBox* creerComboChoix()
 {
     constexpr int lettres = 22;
     constexpr int entreesVisibles = 18;
-    auto* combo = new QComboBox;
+    auto* combo = new ComboChoix;
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMinimumContentsLength(lettres);
     combo->setMaxVisibleItems(entreesVisibles);

@@ -128,6 +128,15 @@ void CommandButton::paintEvent(QPaintEvent* event)
     painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextShowMnemonic, caption);
 }
 
+CommandButton* compactButton(QStringView icon, const QString& caption, const QKeySequence& shortcut)
+{
+    auto* button = new CommandButton(icon, caption);
+    button->setCompact();
+    if (!shortcut.isEmpty())
+        button->setCommandShortcut(shortcut);
+    return button;
+}
+
 QToolButton* iconButton(QStringView name, const QString& spoken, const QKeySequence& shortcut)
 {
     auto* button = new KeyedButton;

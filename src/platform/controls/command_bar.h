@@ -59,6 +59,9 @@ private:
     bool m_compact = false;
 };
 
+/// A button inside a panel: the caption beside a smaller picture.
+CommandButton* compactButton(QStringView icon, const QString& caption, const QKeySequence& shortcut = {});
+
 /// A small button with a picture alone, beside a field: the calendar of a date, the search of a client. The name is
 /// read by accessibility tools and shown as its tool tip.
 QToolButton* iconButton(QStringView icon, const QString& name, const QKeySequence& shortcut = {});

@@ -102,8 +102,7 @@ void EntryPanel::addButton(QWidget* button)
 
 CommandButton* EntryPanel::addFootButton(QStringView family, int index, QStringView icon, const QString& caption)
 {
-    auto* button = named(new CommandButton(icon, caption), family, index);
-    button->setCompact();
+    auto* button = named(compactButton(icon, caption), family, index);
     m_foot->addWidget(button);
     return button;
 }

@@ -45,6 +45,15 @@ QLabel* sectionLabel(const QString& text)
     return labelOf(Role::Section, text, Qt::AlignLeft);
 }
 
+QLabel* markLabel()
+{
+    auto* label = labelOf(Role::Section, QStringLiteral("◀"), Qt::AlignLeft);
+    QSizePolicy place = label->sizePolicy();
+    place.setRetainSizeWhenHidden(true);
+    label->setSizePolicy(place);
+    return label;
+}
+
 QLabel* hintLabel(const QString& text)
 {
     auto* label = labelOf(Role::Hint, text, Qt::AlignLeft);

@@ -12,6 +12,8 @@ QLabel* valueLabel(Qt::Alignment alignment = Qt::AlignRight);
 QLabel* totalLabel();
 /// Heading of a panel.
 QLabel* sectionLabel(const QString& text = {});
+/// The mark beside the field that a pad fills. Hidden, it keeps its place.
+QLabel* markLabel();
 /// Small quiet text, over several lines if need be.
 QLabel* hintLabel(const QString& text = {});
 

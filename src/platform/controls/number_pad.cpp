@@ -45,11 +45,12 @@ NumberPad::NumberPad(const Names& names, QWidget* parent)
         auto* key = named(keyOf(character), names.keys, index);
         connect(key, &QPushButton::clicked, this, [this, character] { press(character); });
         grid->addWidget(key, row, column);
+        return key;
     };
     for (int digit = 1; digit <= 9; ++digit)
         addKey(digit, QChar(u'0' + digit), 3 - (digit - 1) / 3, (digit - 1) % 3);
     addKey(0, u'0', 4, 0);
-    addKey(point, u'.', 4, 1);
+    m_point = addKey(point, u'.', 4, 1);
 
     auto* backspace = named(keyOf({}), names.backspace);
     backspace->setIcon(icon(u"retour-arriere"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPushButton>
 #include <QWidget>
 
 class QLabel;
@@ -23,6 +24,8 @@ public:
     explicit NumberPad(const Names& names, QWidget* parent = nullptr);
 
     QString text() const;
+    /// A field of whole numbers takes no point.
+    void setPointEnabled(bool enabled) { m_point->setEnabled(enabled); }
     /// Blanks the display without telling it: the pad turns to another field.
     void clear();
 
@@ -36,6 +39,7 @@ private:
     void display(const QString& text);
 
     QLabel* m_display;
+    QPushButton* m_point;
 };
 
 } // namespace controls
