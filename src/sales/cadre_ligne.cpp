@@ -182,7 +182,7 @@ void CadreLigne::prendre(ChoixLigne choix, int rang)
     emit choisi(choix, rang);
 }
 
-void CadreLigne::prendreOrdre(ChoixLigne choix, const QString& ordre)
+bool CadreLigne::prendreOrdre(ChoixLigne choix, const QString& ordre)
 {
     m_champs[choix]->setText(ordre);
     const Resultat<int> rang = liste(choix).choisirParOrdre(ordre);
@@ -190,6 +190,16 @@ void CadreLigne::prendreOrdre(ChoixLigne choix, const QString& ordre)
         prendre(choix, *rang);
     else
         montrer(this, rang.refus());
+    return static_cast<bool>(rang);
+}
+
+bool CadreLigne::prendreFrappe()
+{
+    for (const ChoixLigne choix : {ChoixClient, ChoixPoisson}) {
+        if (m_champs[choix]->hasFocus())
+            return prendreOrdre(choix, m_champs[choix]->text());
+    }
+    return true;
 }
 
 void CadreLigne::viser(ChampLigne champ)

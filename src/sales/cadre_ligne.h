@@ -59,7 +59,9 @@ public:
     QString nom(ChoixLigne choix) const;
     void prendre(ChoixLigne choix, int rang);
     /// A number as it is typed into the field: what is not found is told, and the former choice stays.
-    void prendreOrdre(ChoixLigne choix, const QString& ordre);
+    bool prendreOrdre(ChoixLigne choix, const QString& ordre);
+    /// Looks up the number that is being typed, for a line taken before its field is left; false when it is refused.
+    bool prendreFrappe();
     void viser(ChampLigne champ);
 
     controls::CommandButton* accepter() const { return m_accepter; }

@@ -103,7 +103,6 @@ QWidget* j_vente::creerLignes()
     });
     connect(m_grille, &controls::Grid::rowActivated, this, &j_vente::corriger);
     m_grille->selectRow(0);
-    m_grille->scrollToEnd();
 
     auto* panneau = new QWidget;
     auto* colonne = new QVBoxLayout(panneau);
@@ -186,6 +185,13 @@ void j_vente::brancherCadres()
     });
 }
 
+/// The first line is selected, and the last ones are in view.
+void j_vente::showEvent(QShowEvent* event)
+{
+    Dialog::showEvent(event);
+    m_grille->scrollToEnd();
+}
+
 // --- Lines -----------------------------------------------------------------------------------------------------------
 
 void j_vente::executer(int index)
@@ -239,6 +245,8 @@ void j_vente::quitter()
 
 void j_vente::enregistrer()
 {
+    if (!m_cadre->prendreFrappe())
+        return;
     const SaisieLigne ligne = m_cadre->ligne();
     const bool nouvelle = m_saisie.modeLigne() == ModeLigne::Nouvelle;
     const Resultat<LigneAcquise> acquise = m_saisie.SaveLine(ligne);

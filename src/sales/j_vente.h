@@ -34,6 +34,9 @@ public:
     /// `saisie` is open.
     j_vente(Exercice& exercice, SaisieBordereau saisie, QWidget* parent = nullptr);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QWidget* creerLignes();
     QWidget* creerSaisie();

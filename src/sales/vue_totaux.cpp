@@ -7,9 +7,9 @@
 #include "platform/controls/named.h"
 #include "platform/controls/text_field.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
+#include <QMouseEvent>
 
 namespace talor {
 
@@ -90,7 +90,10 @@ VueTotaux::VueTotaux(QWidget* parent)
 /// A touch on the expenses, on their caption or their sum, opens them as their button does.
 bool VueTotaux::eventFilter(QObject* objet, QEvent* evenement)
 {
-    if (evenement->type() == QEvent::MouseButtonRelease && static_cast<QWidget*>(objet)->underMouse())
+    if (evenement->type() != QEvent::MouseButtonRelease)
+        return false;
+    const QPoint lache = static_cast<QMouseEvent*>(evenement)->position().toPoint();
+    if (static_cast<QWidget*>(objet)->rect().contains(lache))
         emit fraisDemandes();
     return false;
 }

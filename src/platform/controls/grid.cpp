@@ -116,7 +116,7 @@ public:
         QFont font = option.font;
         font.setBold(ink == Ink::Strong);
         painter->setFont(font);
-        painter->setPen(enabled ? colourOf(ink) : colour::disabled);
+        painter->setPen(enabled ? colourOf(ink) : colour::muted);
         const QRect room = option.rect.adjusted(cellMargin, 0, -cellMargin, 0);
         const QString text = QFontMetrics(font).elidedText(index.data().toString(), Qt::ElideRight, room.width());
         const auto alignment = index.data(Qt::TextAlignmentRole).value<Qt::Alignment>();
