@@ -29,7 +29,7 @@ enum Bouton
     Pave = 4
 };
 
-constexpr int longueurChamp = 10;
+constexpr int longueurChamp = 12; // what the pad can hold
 constexpr int largeurNumero = 84;
 
 const std::array<QString, nbChampsLigne> legendes = {u"Client"_s, u"Poisson"_s, u"Cageots"_s, u"Poids"_s, u"P.U."_s};

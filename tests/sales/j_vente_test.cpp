@@ -181,6 +181,7 @@ TEST_F(j_venteTest, Entree_ferme_l_annonce_et_rend_la_main_au_client)
             press(boite, Qt::Key_Return);
         });
         entrerLigne(d, {u"2"_s, u"1"_s, u"10"_s, u""_s, u"480"_s});
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&d));
         EXPECT_EQ(enMain(d), u"Text1(0)"_s);
         entrer(d, u"3"_s);
         EXPECT_EQ(label(d, u"Label3(0)"_s), u"BENALI  Omar"_s);
