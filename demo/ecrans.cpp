@@ -7,6 +7,7 @@
 #include "reference/q_selection.h"
 #include "sales/j_vente.h"
 #include "shell/form1.h"
+#include "shell/form_v2.h"
 #include "tools/calclette.h"
 
 namespace talor::demo {
@@ -53,14 +54,26 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
         {u"Q_Date_2"_s, [&] { Q_Date_2::demander(&form1); }, {u"<PgUp>"_s}},
         {u"Q_Mos"_s, [&] { Q_Mos::demander(&form1, 11); }},
         {u"Q_Filtre"_s, [&] { Q_Filtre::demander(&form1, exercice); }},
+        {u"Q_Filtre-periode"_s, [&] { Q_Filtre::demander(&form1, exercice); }, {u"<Alt+P>"_s}},
         {u"Rech_Rap"_s, menu(u"Rech_Rap"_s)},
-        {u"Calclette"_s, [&] { Calclette::demanderChiffres(&form1, exercice); }},
+        {u"Calclette"_s, [&] { Calclette::demanderChiffres(&form1, exercice); }, {u"12"_s, u"<Return>"_s, u"35.5"_s}},
+        {u"Calclette-primes"_s,
+         [&] {
+             Calclette::demanderPrimes(&form1, exercice, {u"300.00"_s, u"15"_s});
+         },
+         {u"<Down>"_s}},
 
         {u"F_Classm"_s, menu(u"mnu_LCLIENTS"_s)},
         {u"Apercu-clients"_s, menu(u"mnu_LCLIENTS"_s), {u"<Return>"_s}},
         {u"Apercu-armateurs"_s, menu(u"mnu_LArmateurs"_s)},
         {u"Apercu-embarcations"_s, menu(u"mnu_Lchalutiers"_s)},
 
+        {u"Identif"_s, menu(u"mnu_ident"_s)},
+        {u"New_MPS"_s, menu(u"mnu_verr"_s), {u"<Return>"_s, u"quai"_s, u"<Return>"_s, u"qua"_s}},
+        {u"Message-confirmation"_s,
+         menu(u"mnu_verr"_s),
+         {u"<Return>"_s, u"quai"_s, u"<Return>"_s, u"port"_s, u"<Return>"_s}},
+        {u"Form_v2"_s, [&] { Form_v2::demander(&form1, exercice, Verrou::Exercice); }, {u"port"_s, u"<Return>"_s}},
         {u"Affichage"_s, menu(u"mnu_images"_s)},
         {u"Mecano"_s, menu(u"mnu_mecano"_s)},
         {u"F_HLP"_s, menu(u"mnu_hlp"_s)},

@@ -32,6 +32,7 @@ public:
     float Commission = 15;                    ///< percent
     float PrixConsigne = 100;                 ///< dinars a crate
     qint64 EffetSonore = 0;                   ///< 1 plays the sounds
+    QString MotAcces;                         ///< access word in force; empty: the exercise operations are open
     quint16 Langue = Configuration::francais; ///< the Arabic texts are never taken
 
     bool estCourant() const { return Annee == pointeur.anneeCourante(); }

@@ -67,8 +67,8 @@ Q_Filtre::Q_Filtre(const Exercice& exercice, QWidget* parent)
     , m_mois(named(new QComboBox, u"Combo1"))
     , m_archive(new QButtonGroup(this))
 {
-    m_pages->addTab(creerPageMois(), u" Mois"_s);
-    m_pages->addTab(creerPagePeriode(exercice), u" Période"_s);
+    m_pages->addTab(creerPageMois(), u" &Mois"_s);
+    m_pages->addTab(creerPagePeriode(exercice), u" &Période"_s);
     body()->addWidget(m_pages);
     body()->addWidget(creerArchives());
     body()->addStretch();

@@ -15,7 +15,9 @@
 #include "shell/affichage.h"
 #include "shell/aide.h"
 #include "shell/form1.h"
+#include "shell/identif.h"
 #include "shell/listes.h"
+#include "shell/new_mps.h"
 
 namespace talor {
 
@@ -51,12 +53,14 @@ void ouvrirGuide(QWidget* parent, const Installation& installation)
 
 void brancherFonctions(Form1& form1, Exercice& exercice)
 {
+    form1.brancher(u"mnu_ident"_s, ouvrir<Identif>(form1, exercice));
     form1.brancher(u"mnu_images"_s, [&] { Affichage(exercice.installation(), &form1).exec(); });
     form1.brancher(u"mnu_arma"_s, ouvrir<J_Armateurs>(form1, exercice));
     form1.brancher(u"mnu_Chalutiers"_s, ouvrir<j_Chalutiers>(form1, exercice));
     form1.brancher(u"mnu_sect"_s, ouvrir<J_PROD>(form1, exercice));
     form1.brancher(u"mnu_art"_s, ouvrir<j_Client>(form1, exercice));
     form1.brancher(u"Rech_Rap"_s, [&] { Rech_Rap(exercice, {}, &form1).exec(); });
+    form1.brancher(u"mnu_verr"_s, ouvrir<New_MPS>(form1, exercice));
     form1.brancher(u"mnu_mecano"_s, [&] {
         if (Mecano::ouvrir(exercice, &form1) == Mecano::Fin::Echoue)
             form1.terminer();

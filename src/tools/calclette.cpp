@@ -5,8 +5,10 @@
 #include "platform/controls/command_bar.h"
 #include "platform/controls/field_chain.h"
 #include "platform/controls/labels.h"
+#include "platform/controls/look.h"
 #include "platform/controls/named.h"
 #include "platform/controls/number_pad.h"
+#include "platform/controls/pad_key.h"
 #include "platform/controls/text_field.h"
 
 #include <QBoxLayout>
@@ -44,15 +46,11 @@ constexpr double tauxLimite = 100;
 const QStringList legendesChiffres = {u"Cageots"_s, u"Poids"_s, u"P.U."_s};
 const QStringList legendesPrimes = {u"Primes"_s, u"Commission (%)"_s};
 
-/// A key for a finger: 14 mm high.
+/// A key of one row beside others of its kind.
 QPushButton* grandeTouche(const QString& texte)
 {
-    auto* touche = new QPushButton(texte);
-    touche->setProperty("padKey", true);
-    touche->setAutoDefault(false);
-    touche->setFocusPolicy(Qt::NoFocus);
+    QPushButton* touche = controls::padKey(texte);
     touche->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    touche->setMinimumWidth(110); // "Cageots" keeps its margins
     return touche;
 }
 
@@ -128,6 +126,7 @@ QWidget* Calclette::creerValeurs()
         grille->addWidget(valeur, i, 1);
         m_valeurs.append(valeur);
     }
+    grille->setColumnMinimumWidth(0, 110); // "Cageots" keeps its margins
     grille->setColumnStretch(1, 1);
     grille->setRowStretch(static_cast<int>(legendesChiffres.size()), 1);
     return panneau;
@@ -149,7 +148,7 @@ QWidget* Calclette::creerCases()
         chaine->add(champ);
         m_cases.append(champ);
     }
-    colonne->addStretch();
+    colonne->addStretch(1);
     chaine->atLast([this] { valider(); });
     connect(m_pave, &controls::NumberPad::displayChanged, this,
             [this](const QString& nombre) { m_cases[m_enMain]->setText(nombre); });
@@ -182,6 +181,8 @@ void Calclette::mettreEnMain(int rang)
     m_enMain = rang;
     m_pave->clear();
     m_legende->setText(m_emploi == Emploi::Chiffres ? legendesChiffres[rang] : legendesPrimes[rang]);
+    for (int i = 0; i < m_valeurs.size(); ++i)
+        controls::setInHand(m_valeurs[i], i == rang);
     if (m_emploi == Emploi::Primes && !m_cases[rang]->hasFocus())
         m_cases[rang]->setFocus();
 }

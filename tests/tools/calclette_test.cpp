@@ -69,6 +69,8 @@ TEST_F(CalcletteTest, le_nombre_va_dans_les_cageots_le_poids_ou_le_prix)
         taper(d, u"250.5"_s);
         click(d, u"SSCommand2(3)"_s);
         EXPECT_EQ(label(d, u"Label1"_s), QString()) << "the number moves, and leaves the pad";
+        EXPECT_TRUE(control(d, u"Label2(0)"_s)->property("inHand").toBool()) << "after the price, the crates again";
+        EXPECT_FALSE(control(d, u"Label2(2)"_s)->property("inHand").toBool());
         taper(d, u"12"_s);
         click(d, u"SSCommand2(1)"_s);
         taper(d, u"99"_s);

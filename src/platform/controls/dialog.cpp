@@ -4,12 +4,27 @@
 #include "platform/controls/named.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 
 namespace controls {
+
+namespace {
+
+/// What a window may take of a screen. The window system's own frame is known only once the window is shown; this is
+/// what one takes at most.
+QSize roomOn(const QScreen* screen)
+{
+    constexpr QSize frame{8, 40};
+    return screen->availableGeometry().size() - frame;
+}
+
+} // namespace
 
 Dialog::Dialog(QStringView name, const QString& title, QWidget* parent)
     : QDialog(parent)
@@ -89,12 +104,46 @@ void Dialog::setVisible(bool visible)
         ensurePolished();
         for (const QWidget* inner : findChildren<QWidget*>())
             inner->ensurePolished();
+        const int wanted = sizeHint().height();
+        if (minimumSizeHint().height() > roomOn(screen()).height())
+            scrollBody();
         // Qt would hold a window that nobody has resized to two thirds of the screen.
         if (!testAttribute(Qt::WA_Resized))
-            resize(sizeHint());
+            resize(sizeHint().width(), wanted);
         centre(this);
     }
     QDialog::setVisible(visible);
+}
+
+/// What has the focus stays in view.
+void Dialog::scrollBody()
+{
+    // Each has its place in the dialog before it takes anything in, so that the order of Tab stays.
+    auto* area = new QScrollArea(this);
+    auto* inside = new QWidget(this);
+    constexpr int aroundTheCursor = 20; // a field is brought into view by its cursor alone
+    QWidget* const focus = focusWidget();
+    auto* content = static_cast<QBoxLayout*>(layout()->itemAt(1)->layout());
+    content->removeItem(m_body);
+    m_body->setParent(nullptr);
+    inside->setLayout(m_body);
+    m_body->setContentsMargins(0, 0, 4, 0);
+    inside->setAutoFillBackground(false);
+
+    area->setWidget(inside);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->viewport()->setAutoFillBackground(false);
+    area->setMinimumWidth(inside->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    content->insertWidget(0, area, 1);
+    if (focus)
+        focus->setFocus();
+    connect(qApp, &QApplication::focusChanged, area, [area, inside](QWidget*, QWidget* entered) {
+        if (entered && inside->isAncestorOf(entered))
+            area->ensureWidgetVisible(entered, 0, aroundTheCursor);
+    });
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event)
@@ -108,10 +157,8 @@ void Dialog::keyPressEvent(QKeyEvent* event)
 
 void centre(QWidget* window)
 {
-    // The window system's own frame is known only once the window is shown; this is what one takes at most.
-    constexpr QSize frame{8, 40};
     const QRect screen = window->screen()->availableGeometry();
-    window->resize(window->size().boundedTo(screen.size() - frame));
+    window->resize(window->size().boundedTo(roomOn(window->screen())));
     window->move(screen.x() + (screen.width() - window->width()) / 2,
                  screen.y() + (screen.height() - window->height()) / 2);
 }

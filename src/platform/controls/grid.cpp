@@ -394,7 +394,10 @@ void Grid::fitColumns()
         return;
     const auto marked = std::find_if(m_columns.cbegin(), m_columns.cend(), [](const Column& c) { return c.stretches; });
     const auto wide = marked == m_columns.cend() ? m_columns.size() - 1 : marked - m_columns.cbegin();
-    const int left = qMax(0, viewport()->width() - columnsWidth());
+    int left = viewport()->width() - columnsWidth();
+    // Where the wide column can give up to half its width it spares the list a move sideways.
+    if (left < 0 && (marked == m_columns.cend() || -left > widthOf(*marked) / 2))
+        left = 0;
     for (int i = 0; i < columnCount(); ++i)
         setColumnWidth(i, widthOf(m_columns[i]) + (i == wide ? left : 0));
 }

@@ -12,7 +12,7 @@ struct Column
     QString caption;
     int widthTwips = 0;
     Qt::Alignment alignment = Qt::AlignLeft;
-    bool stretches = false; ///< takes what width is left; without any such column the last does
+    bool stretches = false; ///< takes what width is left, and gives some; without any such column the last takes it
 };
 
 /// The ink of a cell.

@@ -149,6 +149,11 @@ void setOwed(QWidget* label, bool owed)
     dress(label, "owed", owed);
 }
 
+void setInHand(QWidget* label, bool inHand)
+{
+    dress(label, "inHand", inHand);
+}
+
 void applyLook(QApplication& application)
 {
     initResources();

@@ -45,6 +45,8 @@ enum class Role
 void setRole(QWidget* widget, Role role);
 /// Red text for what is owed, or ink again.
 void setOwed(QWidget* label, bool owed);
+/// The ring of the focus around a value that what is typed goes into.
+void setInHand(QWidget* label, bool inHand);
 
 /// Dresses the application: style, palette, fonts, style sheet, icon, French texts of the standard dialogs, and numbers
 /// read and written with "." whatever the machine's settings. Once, before the first window.

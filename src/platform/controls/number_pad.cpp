@@ -1,8 +1,8 @@
 #include "platform/controls/number_pad.h"
 
-#include "platform/controls/icons.h"
 #include "platform/controls/look.h"
 #include "platform/controls/named.h"
+#include "platform/controls/pad_key.h"
 #include "platform/text/keys.h"
 
 #include <QGridLayout>
@@ -14,20 +14,7 @@ namespace controls {
 using namespace Qt::StringLiterals;
 
 namespace {
-
 constexpr int point = 10;
-
-/// The style sheet gives the keys of a pad their size.
-QPushButton* keyOf(const QString& caption)
-{
-    auto* key = new QPushButton(caption);
-    key->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    key->setFocusPolicy(Qt::NoFocus);
-    key->setAutoDefault(false);
-    key->setProperty("padKey", true);
-    return key;
-}
-
 } // namespace
 
 NumberPad::NumberPad(const Names& names, QWidget* parent)
@@ -42,7 +29,7 @@ NumberPad::NumberPad(const Names& names, QWidget* parent)
     grid->setSpacing(6);
     grid->addWidget(m_display, 0, 0, 1, 3);
     const auto addKey = [&](int index, QChar character, int row, int column) {
-        auto* key = named(keyOf(character), names.keys, index);
+        auto* key = named(padKey(character), names.keys, index);
         connect(key, &QPushButton::clicked, this, [this, character] { press(character); });
         grid->addWidget(key, row, column);
         return key;
@@ -52,10 +39,7 @@ NumberPad::NumberPad(const Names& names, QWidget* parent)
     addKey(0, u'0', 4, 0);
     m_point = addKey(point, u'.', 4, 1);
 
-    auto* backspace = named(keyOf({}), names.backspace);
-    backspace->setIcon(icon(u"retour-arriere"));
-    backspace->setIconSize({26, 26});
-    backspace->setAccessibleName(u"Effacer"_s);
+    auto* backspace = named(padBackspace(), names.backspace);
     connect(backspace, &QPushButton::clicked, this, &NumberPad::eraseLast);
     grid->addWidget(backspace, 4, 2);
 }

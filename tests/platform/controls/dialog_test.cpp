@@ -222,3 +222,29 @@ TEST(Icons, ArePaintedAtAnySizeInTheirColour)
     EXPECT_EQ(inked(icon(u"nouveau"), 32, QIcon::Disabled), QSet<QRgb>{colour::disabled.rgb()});
     EXPECT_GT(inked(applicationIcon(), 16, QIcon::Normal).size(), 4);
 }
+
+TEST(Dialog, OnALowScreenTheBodyScrollsToWhatHasTheFocus)
+{
+    constexpr int fields = 40;
+    Dialog tall(u"j_Haut", u"Haut"_s);
+    QList<TextField*> column;
+    for (int i = 0; i < fields; ++i) {
+        column.append(named(new TextField, u"Text1", i));
+        tall.body()->addWidget(column.last());
+    }
+    auto* bar = new CommandBar;
+    bar->add(0, u"quitter", u"Quitter"_s);
+    tall.commands()->addWidget(bar);
+    column[1]->setFocus();
+    show(tall);
+    EXPECT_LE(tall.height(), tall.screen()->availableGeometry().height());
+    EXPECT_TRUE(tall.rect().contains(bar->geometry()));
+    EXPECT_TRUE(column[1]->hasFocus()) << "the focus stays where it was put";
+    const auto inView = [](QWidget* w) { return w->visibleRegion().boundingRect() == w->rect(); };
+    EXPECT_FALSE(inView(column.last()));
+    for (int i = 1; i < fields - 1; ++i)
+        QTest::keyClick(tall.focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(column.last()->hasFocus());
+    EXPECT_TRUE(inView(column.last())) << column.last()->visibleRegion().boundingRect().height() << " of "
+                                       << column.last()->height();
+}
