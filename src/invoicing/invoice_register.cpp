@@ -201,6 +201,11 @@ Resultat<QList<int>> RegistreFactures::lignesMarquees() const
 
 // --- Prints ----------------------------------------------------------------------------------------------------------
 
+QString RegistreFactures::numeroEtAnnee(int rang) const
+{
+    return cellule(rang, ColFactNumero) + u" / "_s + cellule(rang, ColFactDate).right(4);
+}
+
 const QString& RegistreFactures::modele(int rang) const
 {
     return estRegularisation(rang) ? modeleRegularisation : modeleFacture;
@@ -225,7 +230,7 @@ TextesEtat RegistreFactures::TextesFacture(int rang, GenreImpression genre) cons
     QStringList mots = facture ? MontantEnLettres(Valeur(cellule(rang, ColFactTotal))) : QStringList();
     mots.resize(3);
     return {{"ch5", tel.isEmpty() ? blanc : u"Téléphone  :  "_s + tel},
-            {"ch6", cellule(rang, ColFactNumero) + u" / "_s + cellule(rang, ColFactDate).right(4)},
+            {"ch6", numeroEtAnnee(rang)},
             {"ch9", facture ? u"Facture N°"_s : u"Bon de Livraison N°"_s},
             {"ch10", facture ? u"Arrêtée la présente facture à la somme de :"_s : QString()},
             {"ch11", mots[0]},

@@ -103,6 +103,7 @@ public:
     Resultat<QList<int>> lignesMarquees() const;
 
     // Print of one invoice
+    QString numeroEtAnnee(int rang) const; ///< "7 / 2026"
     const QString& modele(int rang) const;
     QString formule(int rang) const;
     /// The report texts of one invoice. A delivery note carries no sum in words. Both doors write all of them, so that
