@@ -201,7 +201,9 @@ bool demandeOuverture(int argc, char** argv)
 int main(int argc, char** argv)
 {
     if (!demandeOuverture(argc, argv)) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // A screen of another size may be asked for: offscreen:configfile=...
+        if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
         qInstallMessageHandler(taireSansEcran);
     }
     Application application(argc, argv);

@@ -171,6 +171,12 @@ controls::CommandButton* DialogueFactures::commande(Commande index) const
 // --- The list
 // ---------------------------------------------------------------------------------------------------------
 
+/// Room for long names and a few rows more, where the screen has it.
+QSize DialogueFactures::sizeHint() const
+{
+    return Dialog::sizeHint() + QSize(180, 70);
+}
+
 void DialogueFactures::showEvent(QShowEvent* event)
 {
     Dialog::showEvent(event);

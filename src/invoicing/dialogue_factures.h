@@ -41,6 +41,7 @@ protected:
                      const QString& jour, QWidget* parent);
 
     controls::CommandButton* commande(Commande index) const;
+    QSize sizeHint() const override;
     void showEvent(QShowEvent* event) override;
 
 private:

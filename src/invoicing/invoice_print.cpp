@@ -29,6 +29,8 @@ LotFactures ComposerFactures(Exercice& exercice, RegistreFactures& registre, con
                              GenreImpression genre, const ProgressionLot& progression)
 {
     LotFactures lot;
+    // One commit for the texts of them all.
+    store::Transaction transaction(exercice.Base());
     for (int fait = 0; fait < rangs.size(); ++fait) {
         if (progression && !progression(fait, static_cast<int>(rangs.size())))
             return {.document = {}, .abandonne = true, .refus = {}};
@@ -38,6 +40,7 @@ LotFactures ComposerFactures(Exercice& exercice, RegistreFactures& registre, con
         else if (!lot.refus.contains(facture.refus()))
             lot.refus.append(facture.refus());
     }
+    transaction.commit();
     lot.document.setTitle(titreLot(registre, rangs, genre));
     return lot;
 }

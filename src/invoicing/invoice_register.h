@@ -129,10 +129,11 @@ private:
         double Total;
         bool Flag_R;
         bool marquee;
+        int rangClient; ///< among the clients by name
     };
 
     void lirePeriode(const QString& jour);
-    QList<Ligne> lire(const QString& requete, const QVariantList& valeurs) const;
+    QList<Ligne> lire(const QString& requete, const QVariantList& valeurs, bool parClient) const;
     QString somme(double Ligne::*montant) const;
 
     Exercice& m_exercice;
@@ -142,6 +143,7 @@ private:
     QString m_derniereDate;
     QString m_requete;
     QVariantList m_valeurs;
+    bool m_parClient = true;
     QList<Ligne> m_lignes;
     QString m_titre1;
     QString m_titre2;
