@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QRadioButton>
+#include <QShortcut>
 
 namespace talor {
 
@@ -23,6 +24,18 @@ enum Action
     Imprimer,
     Annuler
 };
+
+/// At once: the option's own letter would press it for a tenth of a second first, and an Enter typed meanwhile would
+/// print what is no longer meant.
+void prendreSaLettre(QRadioButton* option)
+{
+    auto* lettre = new QShortcut(option->shortcut(), option);
+    option->setShortcut({});
+    QObject::connect(lettre, &QShortcut::activated, option, [option] {
+        option->setFocus(Qt::ShortcutFocusReason);
+        option->click();
+    });
+}
 
 } // namespace
 
@@ -55,6 +68,7 @@ CadreImpression::Paire CadreImpression::creerPaire(const QString& titre, QString
     Paire paire;
     for (int i = 0; i < 2; ++i) {
         paire[i] = named(new QRadioButton(legendes[i]), famille, i);
+        prendreSaLettre(paire[i]);
         colonne->addWidget(paire[i]);
     }
     paire[0]->setChecked(true);
