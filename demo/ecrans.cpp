@@ -1,5 +1,8 @@
 #include "demo/ecrans.h"
 
+#include "invoicing/fact_bis.h"
+#include "invoicing/factura.h"
+#include "platform/services/clock.h"
 #include "reference/familles.h"
 #include "reference/q_date_2.h"
 #include "reference/q_filtre.h"
@@ -62,6 +65,17 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
              Calclette::demanderPrimes(&form1, exercice, {u"300.00"_s, u"15"_s});
          },
          {u"<Down>"_s}},
+
+        {u"Factura"_s, [&] { Factura(exercice, &form1).exec(); }},
+        {u"FACTURES"_s, menu(u"mnu_s_t"_s), {u"<Space>"_s, u"<Down>"_s, u"<Down>"_s, u"<Space>"_s}},
+        {u"FACTURES-filtre"_s, menu(u"mnu_s_t"_s), {u"<Ctrl+F>"_s}},
+        {u"FACTURES-impression"_s, menu(u"mnu_s_t"_s), {u"<Down>"_s, u"<Ctrl+P>"_s}},
+        {u"Fact_Bis"_s,
+         [&] { Fact_Bis(exercice, services::clock::todayText(), &form1).exec(); },
+         {u"<Ctrl+A>"_s, u"<Ctrl+F>"_s}},
+        {u"Apercu-facture"_s, menu(u"mnu_s_t"_s), {u"<Ctrl+P>"_s, u"<Return>"_s}},
+        {u"Apercu-bon-de-livraison"_s, menu(u"mnu_s_t"_s), {u"<Ctrl+P>"_s, u"<Alt+L>"_s, u"<Return>"_s}},
+        {u"Apercu-liste-factures"_s, menu(u"mnu_s_t"_s), {u"<Ctrl+L>"_s}},
 
         {u"F_Classm"_s, menu(u"mnu_LCLIENTS"_s)},
         {u"Apercu-clients"_s, menu(u"mnu_LCLIENTS"_s), {u"<Return>"_s}},

@@ -1,10 +1,11 @@
 #include "demo/edition.h"
 
 #include "core/report.h"
-#include "core/report_texts.h"
-#include "invoicing/invoice_register.h"
+#include "invoicing/invoice_print.h"
 #include "platform/reports/paint.h"
 #include "shell/listes.h"
+
+#include <numeric>
 
 namespace talor::demo {
 
@@ -26,20 +27,12 @@ Resultat<Imprime> Edition::factures()
     if (const std::optional<Refus> refus = registre.ApplyFilter(filtre))
         return *refus;
 
-    reports::Document ensemble;
-    for (int rang = 0; rang < registre.nbLignes(); ++rang) {
-        const Etat etat = {.modele = registre.modele(rang),
-                           .formule = registre.formule(rang),
-                           .tri = {},
-                           .remplir = [&](Exercice&) { registre.ecrireTextesFacture(rang, GenreImpression::Facture); },
-                           .titre = {}};
-        const Resultat<reports::Document> facture = ComposerEtat(m_exercice, etat);
-        if (!facture)
-            return facture.refus();
-        ensemble.append(*facture);
-    }
-    ensemble.setTitle(u"Factures"_s);
-    return ecrire(ensemble, u"Factures.pdf"_s, u"%1 factures"_s.arg(registre.nbLignes()));
+    QList<int> toutes(registre.nbLignes());
+    std::iota(toutes.begin(), toutes.end(), 0);
+    const LotFactures lot = ComposerFactures(m_exercice, registre, toutes, GenreImpression::Facture);
+    if (!lot.refus.isEmpty())
+        return lot.refus.first();
+    return ecrire(lot.document, u"Factures.pdf"_s, u"%1 factures"_s.arg(registre.nbLignes()));
 }
 
 Resultat<QList<Imprime>> Edition::listes()

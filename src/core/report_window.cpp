@@ -5,6 +5,8 @@
 #include "platform/reports/preview.h"
 #include "platform/services/printers.h"
 
+#include <QWidget>
+
 namespace talor {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,9 @@ bool ImprimerDocument(QWidget* parent, const reports::Document& document, Destin
         Apercu.imprimer();
     else
         Apercu.exec();
+    // Not every window system gives the caller its turn back by itself.
+    if (parent)
+        parent->activateWindow();
     return true;
 }
 

@@ -4,6 +4,8 @@
 #include "core/typed_dates.h"
 #include "core/words.h"
 
+#include <algorithm>
+
 namespace talor {
 
 using namespace Qt::StringLiterals;
@@ -16,7 +18,7 @@ const QString blanc = u" "_s;
 
 const QString listeFactures = u"select Factures!num as Num, Factures!ordre as ordre, date, Factures!Casiers as "
                               u"casiers, Total_HT, Consigne, Total, "
-                              "Flag_R, Nom, Prenom, Tel from Factures, Clients where"_s;
+                              "Flag_R, Nom, Prenom, Tel, num_client from Factures, Clients where"_s;
 
 QString suiviDUnBlanc(const QString& texte)
 {
@@ -40,7 +42,7 @@ RegistreFactures::RegistreFactures(Exercice& exercice, Porte porte, const QStrin
     : m_exercice(exercice)
     , m_porte(porte)
     , m_clients(ListeChoix::clientsParNom(exercice).avecEnsemble())
-    , m_requete(listeFactures + u" date = ? and num_client = Clients!num order by nom, prenom"_s)
+    , m_requete(listeFactures + u" date = ? and num_client = Clients!num"_s)
     , m_valeurs({jour})
     , m_titre1(u"Journée du  "_s + jour)
     , m_titre2(u"Ensemble des clients"_s)
@@ -60,7 +62,8 @@ void RegistreFactures::lirePeriode(const QString& jour)
     m_derniereDate = factures.text("Date");
 }
 
-QList<RegistreFactures::Ligne> RegistreFactures::lire(const QString& requete, const QVariantList& valeurs) const
+QList<RegistreFactures::Ligne> RegistreFactures::lire(const QString& requete, const QVariantList& valeurs,
+                                                      bool parClient) const
 {
     QList<Ligne> lues;
     store::Recordset lignes = m_exercice.Base().openRecordset(requete, valeurs);
@@ -68,13 +71,17 @@ QList<RegistreFactures::Ligne> RegistreFactures::lire(const QString& requete, co
         lues.append({lignes.integer("Num"), lignes.integer("ordre"), lignes.text("date"),
                      lignes.text("Nom") + u"  "_s + lignes.text("Prenom"), lignes.text("Tel"), lignes.value("casiers"),
                      lignes.real("Total_HT"), lignes.real("Consigne"), lignes.real("Total"), lignes.flag("Flag_R"),
-                     false});
+                     false, m_clients.rangDuNum(lignes.integer("num_client"))});
+    // The clients stand in their order already: comparing their names for each invoice would take ten times as long.
+    if (parClient)
+        std::stable_sort(lues.begin(), lues.end(),
+                         [](const Ligne& a, const Ligne& b) { return a.rangClient < b.rangClient; });
     return lues;
 }
 
 void RegistreFactures::charger()
 {
-    m_lignes = lire(m_requete, m_valeurs);
+    m_lignes = lire(m_requete, m_valeurs, m_parClient);
 }
 
 std::optional<Refus> RegistreFactures::ApplyFilter(const FiltreFactures& filtre)
@@ -104,13 +111,14 @@ std::optional<Refus> RegistreFactures::ApplyFilter(const FiltreFactures& filtre)
         requete += u" and Flag_R = False"_s;
     else if (filtre.etat == FiltreFactures::Etat::Reglees)
         requete += u" and Flag_R = TRUE"_s;
-    requete += filtre.parClient ? u" order by nom, prenom"_s : u" order by Factures!ordre"_s;
+    requete += filtre.parClient ? QString() : u" order by Factures!ordre"_s;
 
-    QList<Ligne> lues = lire(requete, valeurs);
+    QList<Ligne> lues = lire(requete, valeurs, filtre.parClient);
     if (lues.isEmpty())
         return Refus{u"Aucune Facture ne répond à ces critères"_s, u"ATTENTION"_s, Icone::Information};
     m_requete = requete;
     m_valeurs = valeurs;
+    m_parClient = filtre.parClient;
     m_titre1 = titre1;
     m_titre2 = filtre.client == numEnsemble ? u"Ensemble des clients"_s
                                             : u"Client ----> "_s + m_clients.texteDuNum(filtre.client);
@@ -201,6 +209,11 @@ Resultat<QList<int>> RegistreFactures::lignesMarquees() const
 
 // --- Prints ----------------------------------------------------------------------------------------------------------
 
+QString RegistreFactures::numeroEtAnnee(int rang) const
+{
+    return cellule(rang, ColFactNumero) + u" / "_s + cellule(rang, ColFactDate).right(4);
+}
+
 const QString& RegistreFactures::modele(int rang) const
 {
     return estRegularisation(rang) ? modeleRegularisation : modeleFacture;
@@ -225,7 +238,7 @@ TextesEtat RegistreFactures::TextesFacture(int rang, GenreImpression genre) cons
     QStringList mots = facture ? MontantEnLettres(Valeur(cellule(rang, ColFactTotal))) : QStringList();
     mots.resize(3);
     return {{"ch5", tel.isEmpty() ? blanc : u"Téléphone  :  "_s + tel},
-            {"ch6", cellule(rang, ColFactNumero) + u" / "_s + cellule(rang, ColFactDate).right(4)},
+            {"ch6", numeroEtAnnee(rang)},
             {"ch9", facture ? u"Facture N°"_s : u"Bon de Livraison N°"_s},
             {"ch10", facture ? u"Arrêtée la présente facture à la somme de :"_s : QString()},
             {"ch11", mots[0]},

@@ -103,6 +103,7 @@ public:
     Resultat<QList<int>> lignesMarquees() const;
 
     // Print of one invoice
+    QString numeroEtAnnee(int rang) const; ///< "7 / 2026"
     const QString& modele(int rang) const;
     QString formule(int rang) const;
     /// The report texts of one invoice. A delivery note carries no sum in words. Both doors write all of them, so that
@@ -128,10 +129,11 @@ private:
         double Total;
         bool Flag_R;
         bool marquee;
+        int rangClient; ///< among the clients by name
     };
 
     void lirePeriode(const QString& jour);
-    QList<Ligne> lire(const QString& requete, const QVariantList& valeurs) const;
+    QList<Ligne> lire(const QString& requete, const QVariantList& valeurs, bool parClient) const;
     QString somme(double Ligne::*montant) const;
 
     Exercice& m_exercice;
@@ -141,6 +143,7 @@ private:
     QString m_derniereDate;
     QString m_requete;
     QVariantList m_valeurs;
+    bool m_parClient = true;
     QList<Ligne> m_lignes;
     QString m_titre1;
     QString m_titre2;

@@ -134,6 +134,8 @@ Resultat<BilanFacturation> InvoiceAll(Exercice& exercice, const DemandeFacturati
         ++bilan.nbFactures;
     }
     bilan.message = {QString::number(bilan.nbFactures) + u" Facture(s) calculées"_s, u"TALOR"_s, Icone::Information};
+    if (bilan.interrompue)
+        bilan.message.texte = u"Facturation interrompue : %1 sur %2"_s.arg(bilan.message.texte).arg(clients.size());
     return bilan;
 }
 

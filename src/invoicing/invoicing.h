@@ -19,7 +19,7 @@ struct BilanFacturation
     int nbFactures = 0;
     bool interrompue = false; ///< stopped between two clients; those done so far are complete
     QList<Refus> refus;       ///< clients who could not be invoiced, and of whom nothing was written
-    Refus message;            ///< how many invoices were made
+    Refus message;            ///< how many invoices were made, and of an interrupted run that it was
 };
 
 /// Told before each client how many of them are done; false stops the run there.

@@ -4,6 +4,8 @@
 #include "core/montrer.h"
 #include "core/report_window.h"
 #include "core/state.h"
+#include "invoicing/factura.h"
+#include "invoicing/factures.h"
 #include "lifecycle/mecano.h"
 #include "platform/services/opener.h"
 #include "reference/f_classm.h"
@@ -61,6 +63,8 @@ void brancherFonctions(Form1& form1, Exercice& exercice)
     form1.brancher(u"mnu_art"_s, ouvrir<j_Client>(form1, exercice));
     form1.brancher(u"Rech_Rap"_s, [&] { Rech_Rap(exercice, {}, &form1).exec(); });
     form1.brancher(u"mnu_verr"_s, ouvrir<New_MPS>(form1, exercice));
+    form1.brancher(u"Nouv_Fact"_s, ouvrir<Factura>(form1, exercice));
+    form1.brancher(u"mnu_s_t"_s, ouvrir<FACTURES>(form1, exercice));
     form1.brancher(u"mnu_mecano"_s, [&] {
         if (Mecano::ouvrir(exercice, &form1) == Mecano::Fin::Echoue)
             form1.terminer();

@@ -248,6 +248,7 @@ TEST_F(Facturation, une_interruption_laisse_completes_les_factures_deja_faites)
     });
     ASSERT_TRUE(bilan);
     EXPECT_TRUE(bilan->interrompue);
+    EXPECT_EQ(bilan->message.texte, u"Facturation interrompue : 1 Facture(s) calculées sur 2"_s);
     EXPECT_EQ(bilan->nbFactures, 1);
     EXPECT_EQ(dits, (QList<std::pair<int, int>>{{0, 2}, {1, 2}}));
     EXPECT_EQ(lignesOuvertes(), 1);

@@ -5,12 +5,14 @@
 #include <QApplication>
 #include <QProgressDialog>
 
+#include <utility>
+
 namespace controls {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int patienceMilliseconds = 2000;
+int patienceMilliseconds = 2000;
 }
 
 Busy::Busy()
@@ -52,6 +54,11 @@ bool Progress::advance(int done)
 bool Progress::cancelled() const
 {
     return m_cancel == Cancel::Allowed && m_bar && m_bar->wasCanceled();
+}
+
+int Progress::setPatience(int milliseconds)
+{
+    return std::exchange(patienceMilliseconds, milliseconds);
 }
 
 } // namespace controls

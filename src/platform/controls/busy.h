@@ -41,6 +41,9 @@ public:
     bool advance(int done);
     bool cancelled() const;
 
+    /// For tests: how long a work must last before its bar shows, in place of the two seconds. Returns what stood.
+    static int setPatience(int milliseconds);
+
 private:
     QPointer<QProgressDialog> m_bar;
     Cancel m_cancel;
