@@ -5,6 +5,7 @@
 #include "reference/q_filtre.h"
 #include "reference/q_mos.h"
 #include "reference/q_selection.h"
+#include "sales/f_bord.h"
 #include "shell/form1.h"
 #include "tools/calclette.h"
 
@@ -16,6 +17,10 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
 {
     /// A function of the menu, by the name of its entry.
     const auto menu = [&](const QString& entree) { return [&form1, entree] { form1.executer(entree); }; };
+    const auto registre = [&] {
+        const F_Bord::Saisie sansSaisie = [](QWidget*, const DemandeSaisie&) {};
+        F_Bord(exercice, sansSaisie, &form1).exec();
+    };
 
     return {
         {u"Form1"_s, [] {}, {}, false},
@@ -45,6 +50,12 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
         {u"Q_Filtre"_s, [&] { Q_Filtre::demander(&form1, exercice); }},
         {u"Rech_Rap"_s, menu(u"Rech_Rap"_s)},
         {u"Calclette"_s, [&] { Calclette::demanderChiffres(&form1, exercice); }},
+
+        {u"F_Bord"_s, registre},
+        {u"F_Bord-nouveau"_s, registre, {u"<Ins>"_s, u"<Return>"_s}},
+        {u"F_Bord-filtre"_s, registre, {u"<Ctrl+F>"_s}},
+        {u"Edit_Bor2"_s, menu(u"Mnu_CR"_s)},
+        {u"Apercu-bordereau"_s, menu(u"Mnu_CR"_s), {u"<Ctrl+P>"_s}},
 
         {u"F_Classm"_s, menu(u"mnu_LCLIENTS"_s)},
         {u"Apercu-clients"_s, menu(u"mnu_LCLIENTS"_s), {u"<Return>"_s}},

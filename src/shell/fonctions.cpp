@@ -12,6 +12,7 @@
 #include "reference/j_client.h"
 #include "reference/j_prod.h"
 #include "reference/rech_rap.h"
+#include "sales/edit_bor2.h"
 #include "shell/affichage.h"
 #include "shell/aide.h"
 #include "shell/form1.h"
@@ -56,6 +57,7 @@ void brancherFonctions(Form1& form1, Exercice& exercice)
     form1.brancher(u"mnu_Chalutiers"_s, ouvrir<j_Chalutiers>(form1, exercice));
     form1.brancher(u"mnu_sect"_s, ouvrir<J_PROD>(form1, exercice));
     form1.brancher(u"mnu_art"_s, ouvrir<j_Client>(form1, exercice));
+    form1.brancher(u"Mnu_CR"_s, ouvrir<Edit_Bor2>(form1, exercice));
     form1.brancher(u"Rech_Rap"_s, [&] { Rech_Rap(exercice, {}, &form1).exec(); });
     form1.brancher(u"mnu_mecano"_s, [&] {
         if (Mecano::ouvrir(exercice, &form1) == Mecano::Fin::Echoue)
