@@ -54,7 +54,7 @@ enum Action
 
 } // namespace
 
-CadreFiltre::CadreFiltre(Exercice& exercice, const RegistreFactures& registre, Porte porte, const QString& jour)
+CadreFiltreFactures::CadreFiltreFactures(Exercice& exercice, const RegistreFactures& registre, Porte porte, const QString& jour)
     : EntryPanel(u"SSFrame1", u"SSPanel1")
     , m_exercice(exercice)
     , m_registre(registre)
@@ -71,7 +71,7 @@ CadreFiltre::CadreFiltre(Exercice& exercice, const RegistreFactures& registre, P
 // --- The client
 // -------------------------------------------------------------------------------------------------------
 
-void CadreFiltre::creerClient(Porte porte)
+void CadreFiltreFactures::creerClient(Porte porte)
 {
     remplirCombo(m_client, m_registre.clients());
     const int ensemble = m_registre.clients().nombre() - 1;
@@ -81,18 +81,18 @@ void CadreFiltre::creerClient(Porte porte)
         m_precedent = creerPas(ClientPrecedent, -1);
         m_suivant = creerPas(ClientSuivant, 1);
         ligne << m_precedent << m_suivant;
-        connect(m_client, &QComboBox::currentIndexChanged, this, &CadreFiltre::montrerPas);
+        connect(m_client, &QComboBox::currentIndexChanged, this, &CadreFiltreFactures::montrerPas);
         montrerPas();
     }
     QToolButton* recherche =
         named(controls::iconButton(u"recherche", u"Chercher un client"_s), u"Image4", RechercheClient);
     QToolButton* tous = named(controls::iconButton(u"clients", u"Tous les clients"_s), u"Image4", TousLesClients);
     addFields(u"Client"_s, ligne << recherche << tous);
-    connect(recherche, &QToolButton::clicked, this, &CadreFiltre::chercherClient);
+    connect(recherche, &QToolButton::clicked, this, &CadreFiltreFactures::chercherClient);
     connect(tous, &QToolButton::clicked, this, [this, ensemble] { m_client->setCurrentIndex(ensemble); });
 }
 
-QToolButton* CadreFiltre::creerPas(int index, int pas)
+QToolButton* CadreFiltreFactures::creerPas(int index, int pas)
 {
     QToolButton* bouton = named(pas < 0 ? controls::iconButton(u"monter", u"Client précédent"_s)
                                         : controls::iconButton(u"descendre", u"Client suivant"_s),
@@ -107,7 +107,7 @@ QToolButton* CadreFiltre::creerPas(int index, int pas)
 }
 
 /// A button that hides hands its focus to the list that it steps through.
-void CadreFiltre::montrerPas()
+void CadreFiltreFactures::montrerPas()
 {
     const bool premier = m_client->currentIndex() <= 0;
     const bool dernier = m_client->currentIndex() >= m_client->count() - 1;
@@ -117,7 +117,7 @@ void CadreFiltre::montrerPas()
     m_suivant->setVisible(!dernier);
 }
 
-void CadreFiltre::chercherClient()
+void CadreFiltreFactures::chercherClient()
 {
     const auto choisi = Q_Client::demander(this, m_exercice);
     if (!choisi)
@@ -132,7 +132,7 @@ void CadreFiltre::chercherClient()
 // --- Which and in which order
 // -----------------------------------------------------------------------------------------
 
-void CadreFiltre::creerOptions()
+void CadreFiltreFactures::creerOptions()
 {
     auto* reglement = new QGroupBox(u"Règlement"_s);
     auto* colonne = new QVBoxLayout(reglement);
@@ -162,7 +162,7 @@ void CadreFiltre::creerOptions()
 // --- Of which day or period
 // -------------------------------------------------------------------------------------------
 
-void CadreFiltre::creerDates(const QString& jour)
+void CadreFiltreFactures::creerDates(const QString& jour)
 {
     addWide(creerGenre(Genre::Jour, {u"Le"}, Jour));
     addWide(creerGenre(Genre::Periode, {u"Du", u"Au"}, Premiere));
@@ -177,7 +177,7 @@ void CadreFiltre::creerDates(const QString& jour)
     chaine->atLast([this] { accepter(Genre::Periode); });
 }
 
-QGroupBox* CadreFiltre::creerGenre(Genre genre, const QList<QStringView>& legendes, int premierChamp)
+QGroupBox* CadreFiltreFactures::creerGenre(Genre genre, const QList<QStringView>& legendes, int premierChamp)
 {
     auto* groupe = new QGroupBox(genre == Genre::Jour ? u"Journée"_s : u"Période"_s);
     auto* grille = new QGridLayout(groupe);
@@ -205,13 +205,13 @@ QGroupBox* CadreFiltre::creerGenre(Genre genre, const QList<QStringView>& legend
     pied->addWidget(annuler);
     grille->addLayout(pied, grille->rowCount(), 0, 1, -1);
     connect(accepter, &QToolButton::clicked, this, [this, genre] { this->accepter(genre); });
-    connect(annuler, &QToolButton::clicked, this, &CadreFiltre::abandonne);
+    connect(annuler, &QToolButton::clicked, this, &CadreFiltreFactures::abandonne);
     if (genre == Genre::Jour)
         m_annuler = annuler;
     return groupe;
 }
 
-void CadreFiltre::accepter(Genre genre)
+void CadreFiltreFactures::accepter(Genre genre)
 {
     m_genre = genre;
     emit accepte({.genre = genre,
@@ -223,14 +223,14 @@ void CadreFiltre::accepter(Genre genre)
                   .parClient = m_parClient->isChecked()});
 }
 
-void CadreFiltre::ouvrir()
+void CadreFiltreFactures::ouvrir()
 {
     show();
     raise();
     viserFaute();
 }
 
-void CadreFiltre::viserFaute()
+void CadreFiltreFactures::viserFaute()
 {
     const bool premiereJuste = dateComplete(m_dates[Premiere]->text().trimmed());
     const bool secondeJuste = dateComplete(m_dates[Seconde]->text().trimmed());
@@ -242,7 +242,7 @@ void CadreFiltre::viserFaute()
 }
 
 /// Enter takes the filter from every control but the dates, which it walks through.
-void CadreFiltre::keyPressEvent(QKeyEvent* event)
+void CadreFiltreFactures::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         accepter(m_genre);

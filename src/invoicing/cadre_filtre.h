@@ -19,13 +19,13 @@ namespace talor {
 
 /// The filter frame `SSFrame1` of the invoices: a client, paid or not, in which order, and of a day or of a period.
 /// Each of the two has its own OK and cancel.
-class CadreFiltre : public controls::EntryPanel
+class CadreFiltreFactures : public controls::EntryPanel
 {
     Q_OBJECT
 
 public:
     /// `jour` is the day that the list opens on. In `Fact_Bis` two buttons step through the clients.
-    CadreFiltre(Exercice& exercice, const RegistreFactures& registre, RegistreFactures::Porte porte,
+    CadreFiltreFactures(Exercice& exercice, const RegistreFactures& registre, RegistreFactures::Porte porte,
                 const QString& jour);
 
     /// The focus goes to the date of the kind last asked for.

@@ -38,7 +38,7 @@ DialogueFactures::DialogueFactures(QStringView nom, const QString& titre, Exerci
     , m_exercice(exercice)
     , m_registre(exercice, porte, jour)
     , m_liste(named(new controls::Grid, u"Grid1"))
-    , m_filtre(new CadreFiltre(exercice, m_registre, porte, jour))
+    , m_filtre(new CadreFiltreFactures(exercice, m_registre, porte, jour))
     , m_impression(new CadreImpression)
     , m_commandes(new controls::CommandBar(u"Image1"_s))
 {
@@ -87,8 +87,8 @@ void DialogueFactures::creerListe()
     body()->addLayout(pile, 1);
 
     connect(m_liste, &controls::Grid::rowActivated, this, &DialogueFactures::basculer);
-    connect(m_filtre, &CadreFiltre::accepte, this, &DialogueFactures::appliquer);
-    connect(m_filtre, &CadreFiltre::abandonne, this, [this] { fermerCadre(m_filtre); });
+    connect(m_filtre, &CadreFiltreFactures::accepte, this, &DialogueFactures::appliquer);
+    connect(m_filtre, &CadreFiltreFactures::abandonne, this, [this] { fermerCadre(m_filtre); });
     connect(m_impression, &CadreImpression::accepte, this, &DialogueFactures::PrintChoice);
     connect(m_impression, &CadreImpression::abandonne, this, [this] { fermerCadre(m_impression); });
 }

@@ -16,7 +16,7 @@ class Grid;
 
 namespace talor {
 
-class CadreFiltre;
+class CadreFiltreFactures;
 class CadreImpression;
 struct LotFactures;
 
@@ -69,7 +69,7 @@ private:
     Exercice& m_exercice;
     RegistreFactures m_registre;
     controls::Grid* m_liste;
-    CadreFiltre* m_filtre;
+    CadreFiltreFactures* m_filtre;
     CadreImpression* m_impression;
     std::array<QLabel*, 2> m_titres{};
     std::array<QLabel*, 3> m_sommes{};

@@ -73,7 +73,7 @@ QString RegistreBordereaux::cellule(int rang, int colonne) const
     case ColBordPrimes:
         return suiviDUnBlanc(FormatSiNonNul(ligne.primes, masquePrimes));
     case ColBordCommission:
-        return suiviDUnBlanc(FormatSiPositif((ligne.brut - ligne.primes) * ligne.Commission * 0.01, masqueMontant));
+        return suiviDUnBlanc(commission(ligne));
     case ColBordFrais:
         return suiviDUnBlanc(FormatSiNonNul(ligne.frais, masqueMontant));
     case ColBordNet:
@@ -85,6 +85,12 @@ QString RegistreBordereaux::cellule(int rang, int colonne) const
     default:
         return {};
     }
+}
+
+/// Not `MT_Commission`, from which the premiums are not deducted.
+QString RegistreBordereaux::commission(const Ligne& ligne)
+{
+    return FormatSiPositif((ligne.brut - ligne.primes) * ligne.Commission * 0.01, masqueMontant);
 }
 
 Resultat<int> RegistreBordereaux::choisirEmbarcation(qint64 num) const
@@ -195,11 +201,12 @@ QString RegistreBordereaux::formule(int rang) const
     return u"{L_Vente.num_bordereau} = "_s + QString::number(num(rang));
 }
 
-void RegistreBordereaux::ecrireTextes()
+void RegistreBordereaux::ecrireTextes(int rang)
 {
-    if (m_porte == Porte::Registre)
-        return;
-    talor::ecrireTextes(m_exercice, {{"ch4", m_titre1}, {"ch5", m_titre2}});
+    TextesEtat champs{{"ch6", commission(m_lignes[rang])}};
+    if (m_porte == Porte::Edition)
+        champs += {{"ch4", m_titre1}, {"ch5", m_titre2}};
+    talor::ecrireTextes(m_exercice, champs);
 }
 
 } // namespace talor

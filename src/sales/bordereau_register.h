@@ -98,8 +98,8 @@ public:
 
     // Print
     QString formule(int rang) const;
-    /// Puts the titles into the report texts where the listings print them.
-    void ecrireTextes();
+    /// Puts into the report texts the commission of the bordereau (`ch6`), and from the listings the titles.
+    void ecrireTextes(int rang);
 
 private:
     struct Ligne
@@ -119,6 +119,7 @@ private:
         qint64 ordre_decompte;
     };
 
+    static QString commission(const Ligne& ligne);
     QList<Ligne> lire(const QString& requete, const QVariantList& valeurs) const;
 
     Exercice& m_exercice;

@@ -2,6 +2,8 @@
 
 #include "core/helpers.h"
 
+#include <algorithm>
+
 namespace talor {
 
 using namespace Qt::StringLiterals;
@@ -90,6 +92,16 @@ QString ListeChoix::texteDuNum(qint64 num, const QString& suffixe) const
 {
     const int rang = rangDuNum(num);
     return rang < 0 ? QString() : m_entrees[rang].texte + suffixe;
+}
+
+int ListeChoix::rangDuDebut(const QString& debut) const
+{
+    if (const auto parOrdre = m_rangsOrdre.constFind(debut); parOrdre != m_rangsOrdre.cend())
+        return *parOrdre;
+    const QString cherche = store::fold(debut);
+    const auto parTexte = std::ranges::find_if(
+        m_entrees, [&](const EntreeListe& entree) { return store::fold(entree.texte.trimmed()).startsWith(cherche); });
+    return parTexte == m_entrees.cend() ? -1 : static_cast<int>(parTexte - m_entrees.cbegin());
 }
 
 Resultat<int> ListeChoix::choisirParOrdre(const QString& texte) const

@@ -43,6 +43,9 @@ public:
     /// Text of an entry and what follows it; empty when it is not in the list.
     QString texteDuNum(qint64 num, const QString& suffixe = {}) const;
 
+    /// What typing into a list leads to: the entry known by this number, else the first whose text begins so, in any
+    /// case and accents; -1 when there is none.
+    int rangDuDebut(const QString& debut) const;
     /// Rank of the entry whose number was typed: "Numéro omis", "Numéro d'ordre introuvable".
     Resultat<int> choisirParOrdre(const QString& texte) const;
     /// Rank of the entry whose `num` was typed: "Numéro d'ordre introuvable".

@@ -14,6 +14,9 @@
 #include "reference/j_client.h"
 #include "reference/j_prod.h"
 #include "reference/rech_rap.h"
+#include "sales/edit_bor2.h"
+#include "sales/f_bord.h"
+#include "sales/j_vente.h"
 #include "shell/affichage.h"
 #include "shell/aide.h"
 #include "shell/form1.h"
@@ -31,6 +34,11 @@ namespace {
 template<class Formulaire> std::function<void()> ouvrir(Form1& form1, Exercice& exercice)
 {
     return [&form1, &exercice] { Formulaire(exercice, &form1).exec(); };
+}
+
+F_Bord::Saisie journalDesVentes(Exercice& exercice)
+{
+    return [&exercice](QWidget* parent, const DemandeSaisie& demande) { j_vente::saisir(parent, exercice, demande); };
 }
 
 /// Asks the order of a list, then prints it.
@@ -61,8 +69,10 @@ void brancherFonctions(Form1& form1, Exercice& exercice)
     form1.brancher(u"mnu_Chalutiers"_s, ouvrir<j_Chalutiers>(form1, exercice));
     form1.brancher(u"mnu_sect"_s, ouvrir<J_PROD>(form1, exercice));
     form1.brancher(u"mnu_art"_s, ouvrir<j_Client>(form1, exercice));
+    form1.brancher(u"Mnu_CR"_s, ouvrir<Edit_Bor2>(form1, exercice));
     form1.brancher(u"Rech_Rap"_s, [&] { Rech_Rap(exercice, {}, &form1).exec(); });
     form1.brancher(u"mnu_verr"_s, ouvrir<New_MPS>(form1, exercice));
+    form1.brancher(u"MBorde"_s, [&] { F_Bord(exercice, journalDesVentes(exercice), &form1).exec(); });
     form1.brancher(u"Nouv_Fact"_s, ouvrir<Factura>(form1, exercice));
     form1.brancher(u"mnu_s_t"_s, ouvrir<FACTURES>(form1, exercice));
     form1.brancher(u"mnu_mecano"_s, [&] {

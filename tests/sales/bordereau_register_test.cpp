@@ -258,19 +258,32 @@ TEST_F(Registre, une_panne_pendant_la_suppression_laisse_tout)
 TEST_F(Registre, l_edition_met_ses_titres_sur_le_papier_et_le_registre_non)
 {
     const qint64 num = exemples.bordereau(u"10/03/2026"_s, nadjet);
+    modifier(num, {{"brut", 10000}, {"primes", 1000}, {"Commission", 15}, {"MT_Commission", 1500}});
     RegistreBordereaux registre(exercice, Porte::Registre);
     registre.LoadRegister();
     EXPECT_EQ(registre.formule(0), u"{L_Vente.num_bordereau} = "_s + QString::number(num));
-    registre.ecrireTextes();
+    registre.ecrireTextes(0);
     exercice.textes.requery();
     EXPECT_EQ(exercice.textes.text("ch4"), QString());
+    EXPECT_EQ(exercice.textes.text("ch6"), u"1 350.00"_s) << "the premiums deducted first";
 
     RegistreBordereaux edition(exercice, Porte::Edition);
     edition.LoadRegister();
     ASSERT_FALSE(edition.filtrer({Genre::Mois, 3, {}, {}, nadjet}));
-    edition.ecrireTextes();
+    edition.ecrireTextes(0);
     exercice.textes.requery();
     EXPECT_EQ(exercice.textes.text("ch4"), u"Bordereaux du mois de Mars"_s);
     EXPECT_EQ(exercice.textes.text("ch5"), u"Chalutier   ----> NADJET"_s);
     EXPECT_EQ(exercice.textes.recordCount(), 1);
+}
+
+TEST_F(Registre, un_bateau_se_trouve_par_son_numero_ou_ses_premieres_lettres)
+{
+    for (const char16_t* nom : {u"ÉTOILE", u"12 AVRIL", u"Nadia"})
+        exemples.chalutier(QString::fromUtf16(nom));
+    const ListeChoix liste = ListeChoix::chalutiers(exercice).avecEnsemble();
+    const std::pair<QString, int> cas[] = {{u"2"_s, 1},  {u"5"_s, 4},  {u"na"_s, 1}, {u"nadi"_s, 4}, {u"etoi"_s, 2},
+                                           {u"12"_s, 3}, {u"en"_s, 5}, {u"1"_s, 0},  {u"x"_s, -1},   {u"99"_s, -1}};
+    for (const auto& [frappe, rang] : cas)
+        EXPECT_EQ(liste.rangDuDebut(frappe), rang) << frappe.toStdString();
 }
