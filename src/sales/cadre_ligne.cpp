@@ -73,7 +73,7 @@ void CadreLigne::creerChoix(ChoixLigne choix)
     // A list opened by the pointer does not leave the field, which would look its number up.
     m_combos[choix]->setFocusPolicy(Qt::TabFocus);
     remplirCombo(m_combos[choix], liste(choix));
-    connect(m_combos[choix], &QComboBox::currentIndexChanged, this, [this, choix](int rang) { prendre(choix, rang); });
+    connect(m_combos[choix], &QComboBox::activated, this, [this, choix](int rang) { prendre(choix, rang); });
 
     TextField* numero = m_champs[choix];
     numero->setFixedWidth(largeurNumero);
@@ -175,7 +175,6 @@ void CadreLigne::prendre(ChoixLigne choix, int rang)
     if (rang < 0 || rang >= liste(choix).nombre())
         return;
     const EntreeListe& entree = liste(choix)[rang];
-    const QSignalBlocker ici(m_combos[choix]);
     m_combos[choix]->setCurrentIndex(rang);
     m_noms[choix]->setText(liste(choix).nom(rang));
     m_nums[choix] = entree.num;

@@ -78,8 +78,15 @@ private:
         if (m_combo->view()->isVisible())
             m_combo->view()->setCurrentIndex(m_combo->model()->index(rang, m_combo->modelColumn()));
         else
-            m_combo->setCurrentIndex(rang);
+            choisir(rang);
         return true;
+    }
+
+    /// As Qt's own search does.
+    void choisir(int rang)
+    {
+        m_combo->setCurrentIndex(rang);
+        emit m_combo->activated(rang);
     }
 
     QComboBox* m_combo;
