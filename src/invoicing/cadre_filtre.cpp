@@ -52,6 +52,9 @@ enum Action
     OkPeriode = 3
 };
 
+/// On a narrow screen the list of clients gives way.
+constexpr int largeurClientMin = 130;
+
 } // namespace
 
 CadreFiltreFactures::CadreFiltreFactures(Exercice& exercice, const RegistreFactures& registre, Porte porte, const QString& jour)
@@ -74,6 +77,7 @@ CadreFiltreFactures::CadreFiltreFactures(Exercice& exercice, const RegistreFactu
 void CadreFiltreFactures::creerClient(Porte porte)
 {
     remplirCombo(m_client, m_registre.clients());
+    m_client->setMinimumWidth(largeurClientMin);
     const int ensemble = m_registre.clients().nombre() - 1;
     m_client->setCurrentIndex(ensemble);
     QList<QWidget*> ligne{m_client};

@@ -50,7 +50,6 @@ CadreImpression::CadreImpression()
     addWide(m_detail);
     nextColumn();
     m_genre = creerPaire(u"Document"_s, u"SSOption5", {u"&Facture"_s, u"Bon de &livraison"_s});
-    nextColumn();
     m_destination = creerPaire(u"Destination"_s, u"SSOption3", {u"&Écran"_s, u"Im&primante"_s});
 
     auto* imprimer = addAccept(u"Image5", Imprimer, u"Imprimer"_s);

@@ -15,6 +15,8 @@
 #include <QLabel>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace talor {
 
 using namespace Qt::StringLiterals;
@@ -29,6 +31,18 @@ const QList<controls::Column> colonnes = {
     {u"Cas."_s, 480, Qt::AlignRight},         {u"Poisson"_s, 1180, Qt::AlignRight},
     {u"Consigne"_s, 1160, Qt::AlignRight},    {u"Total"_s, 1180, Qt::AlignRight},
     {u"Règl"_s, 560, Qt::AlignHCenter},       {u"Impr"_s, 560, Qt::AlignHCenter}};
+
+/// A caption as narrow as its longest word.
+QLabel* surDeuxLignes(const QString& texte)
+{
+    QLabel* legende = controls::captionLabel(texte);
+    legende->setWordWrap(true);
+    int largeur = 0;
+    for (const QString& mot : texte.split(u' '))
+        largeur = std::max(largeur, legende->fontMetrics().horizontalAdvance(mot));
+    legende->setFixedWidth(largeur + 4);
+    return legende;
+}
 
 } // namespace
 
@@ -61,10 +75,10 @@ QWidget* DialogueFactures::creerTitres()
     for (int i = 0; i < 2; ++i) {
         QLabel* etiquette = named(controls::sectionLabel(), u"Label4", i);
         etiquette->setTextFormat(Qt::PlainText);
-        etiquette->setWordWrap(true);
-        ligne->addWidget(etiquette, 1);
+        ligne->addWidget(etiquette, i);
         m_titres[i] = etiquette;
     }
+    m_titres[1]->setWordWrap(true);
     m_titres[1]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return titres;
 }
@@ -96,17 +110,20 @@ void DialogueFactures::creerListe()
 QWidget* DialogueFactures::creerSommes()
 {
     auto* sommes = new QWidget;
-    auto* ligne = new QHBoxLayout(sommes);
-    ligne->setContentsMargins({});
-    ligne->setSpacing(8);
+    auto* grille = new QGridLayout(sommes);
+    grille->setContentsMargins({});
+    grille->setHorizontalSpacing(8);
+    grille->setVerticalSpacing(2);
+    grille->setColumnStretch(0, 1);
     m_nombre = named(controls::captionLabel({}), u"Label4");
-    ligne->addWidget(m_nombre);
-    ligne->addStretch();
+    grille->addWidget(m_nombre, 1, 0);
     const QString legendes[] = {u"Poisson"_s, u"Consigne"_s, u"Total"_s};
     for (int i = 0; i < 3; ++i) {
         m_sommes[i] = named(i == 2 ? controls::totalLabel() : controls::valueLabel(), u"Label3", i);
-        ligne->addWidget(controls::captionLabel(legendes[i], m_sommes[i]));
-        ligne->addWidget(m_sommes[i]);
+        m_sommes[i]->setMinimumWidth(0); // never narrower than its figures
+        grille->addWidget(controls::captionLabel(legendes[i], m_sommes[i]), 0, i + 1, Qt::AlignRight);
+        grille->addWidget(m_sommes[i], 1, i + 1);
+        grille->setColumnMinimumWidth(i + 1, 120);
     }
     return sommes;
 }
@@ -128,12 +145,10 @@ QWidget* DialogueFactures::creerMarques()
     ligne->setContentsMargins({});
     ligne->setSpacing(6);
     for (int i = 0; i < 4; ++i) {
-        if (i == 0)
-            ligne->addWidget(controls::captionLabel(u"Sélection Individuelle"_s));
-        if (i == 2) {
+        if (i == 2)
             ligne->addStretch();
-            ligne->addWidget(controls::captionLabel(u"Sélection Globale"_s));
-        }
+        if (i % 2 == 0)
+            ligne->addWidget(surDeuxLignes(i == 0 ? u"Sélection Individuelle"_s : u"Sélection Globale"_s));
         auto* bouton = named(new controls::CommandButton(marques[i].image, marques[i].legende), u"Image3", i);
         bouton->setCompact();
         bouton->setMnemonic(marques[i].lettre);
@@ -174,7 +189,7 @@ controls::CommandButton* DialogueFactures::commande(Commande index) const
 /// Room for long names and a few rows more, where the screen has it.
 QSize DialogueFactures::sizeHint() const
 {
-    return Dialog::sizeHint() + QSize(180, 70);
+    return Dialog::sizeHint() + QSize(180, 50);
 }
 
 void DialogueFactures::showEvent(QShowEvent* event)

@@ -17,7 +17,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QFile>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPrinter>

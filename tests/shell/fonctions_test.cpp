@@ -1,11 +1,14 @@
 #include "shell/fonctions.h"
 
+#include "invoicing/factura.h"
+#include "invoicing/factures.h"
 #include "platform/controls/file_dialog.h"
 #include "platform/services/opener.h"
 #include "reference/f_classm.h"
 #include "shell/affichage.h"
 #include "shell/form1.h"
 #include "shell/listes.h"
+#include "tests/support/exemples.h"
 #include "tests/support/exercice_temporaire.h"
 #include "tests/support/keys.h"
 #include "tests/support/messages.h"
@@ -58,6 +61,21 @@ TEST(Aide, tient_son_texte_et_se_ferme_par_echap)
         press(d, Qt::Key_Escape);
     });
     form1.executer(u"mnu_hlp"_s);
+}
+
+TEST(Facturation, la_facturation_et_le_registre_s_ouvrent_par_le_menu)
+{
+    ExerciceTemporaire t;
+    Exemples exemples(t.exercice);
+    const qint64 client = exemples.client(u"AMARI"_s);
+    exemples.ligne({.client = client, .casiers = 1, .pu = 100});
+    exemples.facture({.client = client});
+    Form1 form1(t.exercice);
+    brancherFonctions(form1, t.exercice);
+    const auto facturation = whenOpened<Factura>([](Factura& d) { press(d, Qt::Key_Escape); });
+    form1.executer(u"Nouv_Fact"_s);
+    const auto registre = whenOpened<FACTURES>([](FACTURES& d) { press(d, Qt::Key_Escape); });
+    form1.executer(u"mnu_s_t"_s);
 }
 
 TEST(Listes, chacune_a_son_modele_son_tri_et_son_titre_de_classement)

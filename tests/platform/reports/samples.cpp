@@ -152,9 +152,33 @@ QList<SampleRow> boats()
     return rows;
 }
 
+QList<SampleRow> listedInvoices(int count)
+{
+    QList<SampleRow> rows;
+    for (int i = 0; i < count; ++i) {
+        const bool isRegularisation = i == 4;
+        const double crates = isRegularisation ? 0 : 7 * (i % 20), fish = 18250.5 * (i % 11 + 1);
+        rows.append({{u"Csse.num_produit"_s, i + 1},
+                     {u"Factures.ordre"_s, isRegularisation ? -1 : i + 1},
+                     {u"Factures.Date"_s, u"15/11/2026"_s},
+                     {u"Factures.Casiers"_s, isRegularisation ? QVariant() : QVariant(crates)},
+                     {u"Factures.Total_HT"_s, fish},
+                     {u"Factures.Consigne"_s, crates * 100},
+                     {u"Factures.Total"_s, fish + crates * 100},
+                     {u"Factures.Flag_R"_s, i % 3 == 0},
+                     {u"Clients.nom"_s, surnames[i % surnames.size()]},
+                     {u"Clients.prenom"_s, firstNames[i % firstNames.size()]}});
+    }
+    return rows;
+}
+
 MemorySource everything(int lines)
 {
     MemorySource source;
+    source.tables[u"Permn"_s] = {{{u"Permn.tel"_s, u"043 64 12 07"_s},
+                                  {u"Permn.RC"_s, u"46 A 0119999"_s},
+                                  {u"Permn.Id_Fisc"_s, u"196302010011223"_s},
+                                  {u"Permn.Article"_s, u" "_s}}};
     source.tables[u"textes"_s] = {listTexts()};
     source.tables[u"Factures"_s] = invoiceRows(12, 12, lines);
     source.tables[u"Clients"_s] = clients(70);

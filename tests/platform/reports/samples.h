@@ -13,6 +13,8 @@ SampleRow listTexts();
 
 QList<SampleRow> invoiceRows(int num, int ordre, int lines);
 QList<SampleRow> clients(int count);
+/// Rows of the listing of invoices; the fifth is a regularisation.
+QList<SampleRow> listedInvoices(int count);
 QList<SampleRow> fish();
 QList<SampleRow> owners();
 QList<SampleRow> boats();

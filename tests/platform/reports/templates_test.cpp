@@ -54,8 +54,11 @@ TEST(Templates, PrintWhatTheyPrintedBefore)
 {
     compareWithKept(printInvoice(4, samples::invoiceTexts(12)), u"facture"_s);
     compareWithKept(printInvoice(4, samples::deliveryNoteTexts(12)), u"bon_de_livraison"_s);
+    compareWithKept(printInvoice(80, samples::invoiceTexts(12)), u"facture_80_lignes"_s);
     MemorySource source = samples::everything(1);
     source.tables[u"Clients"_s] = samples::clients(24);
+    source.tables[u"Csse"_s] = samples::listedInvoices(60);
+    compareWithKept(print(u"List_fct.RPT"_s, source), u"liste_factures"_s);
     compareWithKept(print(u"L_CLIENT.RPT"_s, source), u"liste_clients"_s);
     compareWithKept(print(u"L_POISSN.RPT"_s, source), u"liste_poissons"_s);
     compareWithKept(print(u"L_ARMATR.RPT"_s, source), u"liste_armateurs"_s);
@@ -145,6 +148,25 @@ TEST(Invoice, AsADeliveryNoteHasNoWordsAndNoFrameForThem)
     const auto outlined = [](const reports::Shape& shape) { return shape.width > 0 && !shape.isRule; };
     const auto& shapes = note.pages()[0].shapes;
     EXPECT_TRUE(std::none_of(shapes.begin(), shapes.end(), outlined));
+}
+
+TEST(Invoice, BearsTheRegistrationOfTheTraderAsFarAsItIsKnown)
+{
+    const QStringList text = linesOf(printInvoice(80, samples::invoiceTexts(12)));
+    EXPECT_EQ(text.filter(u"R.C. : 46 A 0119999"_s).size(), 1) << "on the first page";
+    EXPECT_EQ(text.filter(u"Id. Fiscale : 196302010011223"_s).size(), 1);
+    EXPECT_EQ(text.filter(u"Compte bancaire"_s).size(), 0);
+}
+
+TEST(Invoice, ShowsNoWeightWhereAllWasSoldByTheCrate)
+{
+    MemorySource source = samples::everything(3);
+    for (SampleRow& row : source.tables[u"Factures"_s])
+        row[u"L_Vente.poids"_s] = 0.0;
+    source.tables[u"textes"_s] = {samples::invoiceTexts(12)};
+    const QString text = linesOf(print(u"Facture.RPT"_s, source), 0).join(u'\n');
+    EXPECT_TRUE(text.contains(u"Total poisson | 6 | "_s)) << text.toStdString();
+    EXPECT_FALSE(text.contains(u"| 0.00"_s)) << text.toStdString();
 }
 
 TEST(Invoice, WithoutLinesPrintsAllTheSame)
