@@ -1,7 +1,7 @@
 #include "invoicing/dialogue_factures.h"
 
 #include "core/montrer.h"
-#include "invoicing/cadre_filtre.h"
+#include "invoicing/cadre_filtre_factures.h"
 #include "invoicing/cadre_impression.h"
 #include "invoicing/invoice_print.h"
 #include "platform/controls/busy.h"

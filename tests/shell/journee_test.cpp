@@ -54,7 +54,7 @@ QStringList pagesMontrees(const std::function<void()>& action)
 void toucherRang(QWidget& d, const QString& grille, int rang)
 {
     auto* liste = control<Grid>(d, grille);
-    const QModelIndex place = liste->model()->index(rang, 1);
+    const QModelIndex place = liste->model()->index(rang, 0);
     liste->scrollTo(place);
     QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualRect(place).center());
 }
@@ -152,6 +152,7 @@ public:
         press(d, Qt::Key_A, Qt::ControlModifier);
         press(d, Qt::Key_P, Qt::ControlModifier);
         press(d, Qt::Key_Return);
+        fermerPanneau(d);
     }
     void imprimerBon(Fact_Bis& d) override
     {
@@ -159,6 +160,14 @@ public:
         press(d, Qt::Key_A, Qt::AltModifier);
         press(d, Qt::Key_L, Qt::AltModifier);
         press(d, Qt::Key_Return);
+        fermerPanneau(d);
+    }
+
+private:
+    static void fermerPanneau(Fact_Bis& d)
+    {
+        QCoreApplication::processEvents(); // the keys go to the list again
+        press(d, Qt::Key_Escape);
     }
 };
 
@@ -238,6 +247,7 @@ public:
         click(d, u"Image3(3)"_s);
         click(d, u"Image1(1)"_s);
         click(d, u"Image5(0)"_s);
+        click(d, u"Image5(1)"_s);
     }
     void imprimerBon(Fact_Bis& d) override
     {
@@ -245,6 +255,7 @@ public:
         click(d, u"Option2(1)"_s);
         click(d, u"SSOption5(1)"_s);
         click(d, u"Image5(0)"_s);
+        click(d, u"Image5(1)"_s);
     }
 };
 
@@ -375,6 +386,16 @@ private:
 
 } // namespace
 
+/// The first place where two lists part.
+QString ecart(const QStringList& a, const QStringList& b)
+{
+    for (qsizetype i = 0; i < qMax(a.size(), b.size()); ++i) {
+        if (a.value(i) != b.value(i))
+            return u"%1 : « %2 », « %3 »"_s.arg(i).arg(a.value(i), b.value(i));
+    }
+    return {};
+}
+
 TEST(UneJournee, se_travaille_au_clavier_comme_au_doigt_et_laisse_les_memes_lignes)
 {
     AuClavier clavier;
@@ -391,10 +412,10 @@ TEST(UneJournee, se_travaille_au_clavier_comme_au_doigt_et_laisse_les_memes_lign
         bons[rang] = journee.bon;
         ++rang;
     }
-    EXPECT_EQ(livres[0], livres[1]);
-    EXPECT_EQ(lots[0], lots[1]);
-    EXPECT_EQ(bons[0], bons[1]);
-    EXPECT_EQ(registres[0], registres[1]);
+    EXPECT_EQ(ecart(livres[0], livres[1]), QString());
+    EXPECT_EQ(ecart(lots[0], lots[1]), QString());
+    EXPECT_EQ(ecart(bons[0], bons[1]), QString());
+    EXPECT_EQ(ecart(registres[0], registres[1]), QString());
 
     // As worked out by hand from what is called out.
     EXPECT_EQ(livres[0].filter(u"L_Vente|"_s).size(), 119);
@@ -404,5 +425,13 @@ TEST(UneJournee, se_travaille_au_clavier_comme_au_doigt_et_laisse_les_memes_lign
     EXPECT_TRUE(bons[0][0].contains(u"Bon de Livraison N°"_s));
     EXPECT_FALSE(bons[0][0].contains(u"Arrêtée la présente facture"_s));
     EXPECT_TRUE(lots[0][0].contains(u"Arrêtée la présente facture à la somme de :"_s));
-    EXPECT_EQ(registres[0], QStringList());
+    const QStringList registre{
+        u"1|15/06/2026|BATEAU 1 |93|205 525.00 ||30 828.75 ||174 696.25 |OUI|"_s,
+        u"2|15/06/2026|BATEAU 2 |96|180 150.00 ||27 022.50 ||153 127.50 |OUI|"_s,
+        u"3|15/06/2026|BATEAU 3 |89|185 695.00 ||27 854.25 ||157 840.75 |OUI|"_s,
+        u"4|15/06/2026|BATEAU 1 |93|209 620.00 |1 500.00 |24 974.40 ||183 145.60 |OUI|"_s,
+        u"5|15/06/2026|BATEAU 2 |93|177 550.00 ||26 632.50 |4 250.50 |146 667.00 |OUI|"_s,
+        u"6|15/06/2026|BATEAU 3 |93|197 800.00 ||29 670.00 ||168 130.00 |OUI|"_s,
+    };
+    EXPECT_EQ(ecart(registres[0], registre), QString());
 }

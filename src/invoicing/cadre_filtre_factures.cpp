@@ -1,4 +1,4 @@
-#include "invoicing/cadre_filtre.h"
+#include "invoicing/cadre_filtre_factures.h"
 
 #include "core/montrer.h"
 #include "core/typed_dates.h"
