@@ -36,21 +36,6 @@ std::optional<Refus> creerFiche(Fiches& fiches, const Fiche& champs)
     return std::nullopt;
 }
 
-/// Row of the expense frame where a label goes: its own, or the first "Divers" that is still free.
-std::optional<int> rangFrais(const SaisieBordereau& saisie, const QString& libelle)
-{
-    const auto libre = [&](const QString& cherche) -> std::optional<int> {
-        for (int i = 0; i < SaisieBordereau::nbFrais; ++i) {
-            const LigneFrais& frais = saisie.frais()[static_cast<size_t>(i)];
-            if (frais.libelle == cherche && frais.montant.isEmpty())
-                return i;
-        }
-        return std::nullopt;
-    };
-    const std::optional<int> propre = libre(libelle);
-    return propre ? propre : libre(u"Divers"_s);
-}
-
 std::optional<Refus> saisirFrais(SaisieBordereau& saisie, const QList<Frais>& frais)
 {
     for (const Frais& f : frais) {
@@ -102,13 +87,27 @@ int rangEmbarcation(const RegistreBordereaux& registre, const QString& denom)
 
 } // namespace
 
+std::optional<int> rangFrais(const SaisieBordereau& saisie, const QString& libelle)
+{
+    const auto libre = [&](const QString& cherche) -> std::optional<int> {
+        for (int i = 0; i < SaisieBordereau::nbFrais; ++i) {
+            const LigneFrais& frais = saisie.frais()[static_cast<size_t>(i)];
+            if (frais.libelle == cherche && frais.montant.isEmpty())
+                return i;
+        }
+        return std::nullopt;
+    };
+    const std::optional<int> propre = libre(libelle);
+    return propre ? propre : libre(u"Divers"_s);
+}
+
 Jeu::Jeu(Exercice& exercice, const Saison& saison, Annonce annonce)
     : m_exercice(exercice)
     , m_saison(saison)
     , m_annonce(std::move(annonce))
 {}
 
-std::optional<Refus> Jeu::jouer()
+std::optional<Refus> Jeu::jouer(Reste reste)
 {
     services::clock::setToday(m_saison.journees.first().date);
     identifier();
@@ -117,9 +116,12 @@ std::optional<Refus> Jeu::jouer()
     for (const Journee& journee : m_saison.journees) {
         services::clock::setToday(journee.date);
         m_annonce(u"Journée du "_s + journee.date.toString(formatDate));
-        for (const Bordereau& bordereau : journee.bordereaux)
+        for (const Bordereau& bordereau : journee.bordereaux) {
+            if (reste == Reste::DernierBordereau && &bordereau == &m_saison.journees.last().bordereaux.last())
+                return std::nullopt;
             if (const std::optional<Refus> refus = saisirBordereau(journee, bordereau))
                 return refus;
+        }
         if (const std::optional<Refus> refus = facturer(journee))
             return refus;
     }

@@ -2,6 +2,7 @@
 
 #include "core/state.h"
 #include "demo/saison.h"
+#include "sales/bordereau_entry.h"
 
 #include <functional>
 
@@ -19,7 +20,14 @@ public:
     /// `annonce` hears a line for each thing done.
     Jeu(Exercice& exercice, const Saison& saison, Annonce annonce);
 
-    std::optional<Refus> jouer();
+    /// What is left to be done at the windows.
+    enum class Reste
+    {
+        Rien,
+        DernierBordereau ///< the last bordereau of the season, and the invoices of its day
+    };
+
+    std::optional<Refus> jouer(Reste reste = Reste::Rien);
 
     // The same in steps.
     void identifier();
@@ -38,5 +46,8 @@ private:
     const Saison& m_saison;
     Annonce m_annonce;
 };
+
+/// Row of the expense frame, from 0, where a label goes: its own, or the first "Divers" that is still free.
+std::optional<int> rangFrais(const SaisieBordereau& saisie, const QString& libelle);
 
 } // namespace talor::demo

@@ -89,10 +89,10 @@ public:
         m_form1.show();
     }
 
-    QStringList jouerScenes()
+    QStringList jouerScenes(const Saison& saison)
     {
         QStringList recits;
-        for (const Scene& scene : scenes(m_form1)) {
+        for (const Scene& scene : scenes(m_form1, m_exercice, saison)) {
             prendre(scene.ecran);
             if (const std::optional<QString> ecart = scene.verifier(m_exercice))
                 throw Echec{scene.recit + u" : "_s + *ecart};
@@ -130,11 +130,11 @@ void jouer(const QDir& dossier)
     const Saison saison = lireSaisonLivree();
     exiger(deposer(origine(), dossier, saison.annee()));
     const std::shared_ptr<Exercice> exercice = exiger(ouvrirExercice(dossier, saison.annee()));
-    exiger(Jeu(*exercice, saison, annoncer).jouer());
+    exiger(Jeu(*exercice, saison, annoncer).jouer(Jeu::Reste::DernierBordereau));
 
     Resume resume;
     Seance seance(*exercice, dossier);
-    resume.scenes = seance.jouerScenes();
+    resume.scenes = seance.jouerScenes(saison);
     resume.ecarts = verifierLivres(*exercice, saison);
     resume.documents = imprimer(*exercice, dossier);
     seance.prendreEcrans();

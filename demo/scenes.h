@@ -2,6 +2,7 @@
 
 #include "core/state.h"
 #include "demo/capture.h"
+#include "demo/saison.h"
 
 namespace talor {
 class Form1;
@@ -19,6 +20,7 @@ struct Scene
     std::function<std::optional<QString>(Exercice&)> verifier;
 };
 
-QList<Scene> scenes(Form1& form1);
+/// The last bordereau of the season and the invoices of its day are among them.
+QList<Scene> scenes(Form1& form1, Exercice& exercice, const Saison& saison);
 
 } // namespace talor::demo
