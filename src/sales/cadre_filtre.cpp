@@ -134,6 +134,7 @@ QBoxLayout* CadreFiltre::creerPeriode(QWidget* dialogue)
         const SaisieDate date = creerSaisieDate(dialogue);
         auto* champ = named(date.champ, u"Text21", i + 1);
         champ->setText(services::clock::todayText());
+        champ->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         if (i > 0) {
             ligne->addSpacing(6);
             ligne->addWidget(controls::captionLabel(u"a&u"_s, champ));
