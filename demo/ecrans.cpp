@@ -8,7 +8,6 @@
 #include "reference/q_filtre.h"
 #include "reference/q_mos.h"
 #include "reference/q_selection.h"
-#include "sales/f_bord.h"
 #include "sales/j_vente.h"
 #include "shell/form1.h"
 #include "shell/form_v2.h"
@@ -22,11 +21,6 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
 {
     /// A function of the menu, by the name of its entry.
     const auto menu = [&](const QString& entree) { return [&form1, entree] { form1.executer(entree); }; };
-    const auto registre = [&] {
-        const F_Bord::Saisie sansSaisie = [](QWidget*, const DemandeSaisie&) {};
-        F_Bord(exercice, sansSaisie, &form1).exec();
-    };
-
     const auto saisie = [&] {
         j_vente::saisir(&form1, exercice, {ModeBordereau::Existant, u"15/11/2026"_s, u"1"_s, 1, 1, u"Sidi Brahim"_s});
     };
@@ -82,9 +76,9 @@ QList<Ecran> ecrans(Form1& form1, Exercice& exercice)
         {u"Apercu-bon-de-livraison"_s, menu(u"mnu_s_t"_s), {u"<Ctrl+P>"_s, u"<Alt+L>"_s, u"<Return>"_s}},
         {u"Apercu-liste-factures"_s, menu(u"mnu_s_t"_s), {u"<Ctrl+L>"_s}},
 
-        {u"F_Bord"_s, registre},
-        {u"F_Bord-nouveau"_s, registre, {u"<Ins>"_s, u"<Return>"_s}},
-        {u"F_Bord-filtre"_s, registre, {u"<Ctrl+F>"_s}},
+        {u"F_Bord"_s, menu(u"MBorde"_s)},
+        {u"F_Bord-nouveau"_s, menu(u"MBorde"_s), {u"<Ins>"_s, u"<Return>"_s}},
+        {u"F_Bord-filtre"_s, menu(u"MBorde"_s), {u"<Ctrl+F>"_s}},
         {u"Edit_Bor2"_s, menu(u"Mnu_CR"_s)},
         {u"Apercu-bordereau"_s, menu(u"Mnu_CR"_s), {u"<Ctrl+P>"_s}},
 

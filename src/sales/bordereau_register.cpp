@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString masqueMontant = u"### ###.00"_s;
+const QString masquePapier = u"### ### ###.00"_s;
 const QString masquePrimes = u"## ###.00"_s;
 
 QString suiviDUnBlanc(const QString& texte)
@@ -73,7 +74,7 @@ QString RegistreBordereaux::cellule(int rang, int colonne) const
     case ColBordPrimes:
         return suiviDUnBlanc(FormatSiNonNul(ligne.primes, masquePrimes));
     case ColBordCommission:
-        return suiviDUnBlanc(commission(ligne));
+        return suiviDUnBlanc(FormatSiPositif(commission(ligne), masqueMontant));
     case ColBordFrais:
         return suiviDUnBlanc(FormatSiNonNul(ligne.frais, masqueMontant));
     case ColBordNet:
@@ -88,9 +89,9 @@ QString RegistreBordereaux::cellule(int rang, int colonne) const
 }
 
 /// Not `MT_Commission`, from which the premiums are not deducted.
-QString RegistreBordereaux::commission(const Ligne& ligne)
+double RegistreBordereaux::commission(const Ligne& ligne)
 {
-    return FormatSiPositif((ligne.brut - ligne.primes) * ligne.Commission * 0.01, masqueMontant);
+    return (ligne.brut - ligne.primes) * ligne.Commission * 0.01;
 }
 
 Resultat<int> RegistreBordereaux::choisirEmbarcation(qint64 num) const
@@ -203,7 +204,7 @@ QString RegistreBordereaux::formule(int rang) const
 
 void RegistreBordereaux::ecrireTextes(int rang)
 {
-    TextesEtat champs{{"ch6", commission(m_lignes[rang])}};
+    TextesEtat champs{{"ch6", FormatSiPositif(commission(m_lignes[rang]), masquePapier)}};
     if (m_porte == Porte::Edition)
         champs += {{"ch4", m_titre1}, {"ch5", m_titre2}};
     talor::ecrireTextes(m_exercice, champs);

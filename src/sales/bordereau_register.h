@@ -119,7 +119,7 @@ private:
         qint64 ordre_decompte;
     };
 
-    static QString commission(const Ligne& ligne);
+    static double commission(const Ligne& ligne);
     QList<Ligne> lire(const QString& requete, const QVariantList& valeurs) const;
 
     Exercice& m_exercice;

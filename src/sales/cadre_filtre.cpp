@@ -19,6 +19,8 @@
 #include <QLabel>
 #include <QShortcut>
 
+#include <algorithm>
+
 namespace talor {
 
 using namespace Qt::StringLiterals;
@@ -71,16 +73,19 @@ CadreFiltre::CadreFiltre(Exercice& exercice, const RegistreBordereaux& registre,
     grille->setHorizontalSpacing(12);
     grille->setVerticalSpacing(8);
     grille->addWidget(controls::sectionLabel(u"Filtre"_s), 0, 0, 1, 2);
+    grille->setColumnStretch(3, 1);
     const auto ajouter = [grille](const QString& legende, QWidget* champ, QBoxLayout* ligne) {
+        ligne->setSpacing(6);
+        ligne->addStretch();
         const int rang = grille->rowCount();
         grille->addWidget(controls::captionLabel(legende, champ), rang, 0);
         grille->addLayout(ligne, rang, 1);
+        return rang;
     };
     ajouter(u"&Embarcation"_s, m_bateau, creerBateau(exercice, dialogue));
-    ajouter(u"&Mois"_s, m_mois, creerMois(dialogue));
+    m_okMois = ajouterOk(grille, ajouter(u"&Mois"_s, m_mois, creerMois(dialogue)), Genre::Mois);
     QBoxLayout* periode = creerPeriode(dialogue);
-    ajouter(u"&Du"_s, m_dates[0], periode);
-    grille->setColumnStretch(1, 1);
+    m_okPeriode = ajouterOk(grille, ajouter(u"&Du"_s, m_dates[0], periode), Genre::Periode);
 
     auto* mois = new controls::FieldChain(this);
     mois->add({m_bateau, m_mois});
@@ -96,7 +101,6 @@ CadreFiltre::CadreFiltre(Exercice& exercice, const RegistreBordereaux& registre,
 QBoxLayout* CadreFiltre::creerBateau(Exercice& exercice, QWidget* dialogue)
 {
     auto* ligne = new QHBoxLayout;
-    ligne->setSpacing(6);
     ligne->addWidget(m_bateau);
     ligne->addWidget(bouton(Ensemble, u"actualiser", u"Ensemble des embarcations"_s,
                             [this] { m_bateau->setCurrentIndex(m_bateau->count() - 1); }));
@@ -114,25 +118,23 @@ QBoxLayout* CadreFiltre::creerMois(QWidget* dialogue)
     m_mois->setCurrentIndex(services::clock::today().month() - 1);
 
     auto* ligne = new QHBoxLayout;
-    ligne->setSpacing(6);
     ligne->addWidget(m_mois);
     ligne->addWidget(bouton(RechercheMois, u"recherche", u"Choisir le mois"_s, [this, dialogue] {
         m_mois->setFocus();
         if (const auto mois = Q_Mos::demander(dialogue, m_mois->currentIndex() + 1))
             m_mois->setCurrentIndex(*mois - 1);
     }));
-    m_okMois = ajouterOk(ligne, Genre::Mois);
     return ligne;
 }
 
 QBoxLayout* CadreFiltre::creerPeriode(QWidget* dialogue)
 {
     auto* ligne = new QHBoxLayout;
-    ligne->setSpacing(6);
     for (int i = 0; i < 2; ++i) {
         const SaisieDate date = creerSaisieDate(dialogue);
         auto* champ = named(date.champ, u"Text21", i + 1);
         champ->setText(services::clock::todayText());
+        champ->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         if (i > 0) {
             ligne->addSpacing(6);
             ligne->addWidget(controls::captionLabel(u"a&u"_s, champ));
@@ -141,22 +143,23 @@ QBoxLayout* CadreFiltre::creerPeriode(QWidget* dialogue)
         ligne->addWidget(named(date.calendrier, u"Image31", CalendrierPremiere + i));
         m_dates[static_cast<size_t>(i)] = champ;
     }
-    m_okPeriode = ajouterOk(ligne, Genre::Periode);
     return ligne;
 }
 
-CommandButton* CadreFiltre::ajouterOk(QBoxLayout* ligne, Genre genre)
+CommandButton* CadreFiltre::ajouterOk(QGridLayout* grille, int rang, Genre genre)
 {
     const bool parMois = genre == Genre::Mois;
     auto* ok = named(new CommandButton(u"ok", u"OK"_s), u"Image21", parMois ? AccepterMois : AccepterPeriode);
     auto* annuler =
         named(new CommandButton(u"annuler", u"Annuler"_s), u"Image21", parMois ? AnnulerMois : AnnulerPeriode);
     ok->setPrimary();
-    ligne->addStretch();
+    auto* ligne = new QHBoxLayout;
+    ligne->setSpacing(6);
     for (CommandButton* action : {ok, annuler}) {
         action->setCompact();
         ligne->addWidget(action);
     }
+    grille->addLayout(ligne, rang, 2);
     m_annuler.append(annuler);
     connect(ok, &QToolButton::clicked, this, [this, genre] { emit accepte(filtre(genre)); });
     connect(annuler, &QToolButton::clicked, this, &CadreFiltre::abandonne);

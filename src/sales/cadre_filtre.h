@@ -42,7 +42,7 @@ private:
     QBoxLayout* creerBateau(Exercice& exercice, QWidget* dialogue);
     QBoxLayout* creerMois(QWidget* dialogue);
     QBoxLayout* creerPeriode(QWidget* dialogue);
-    controls::CommandButton* ajouterOk(QBoxLayout* ligne, FiltreBordereaux::Genre genre);
+    controls::CommandButton* ajouterOk(QGridLayout* grille, int rang, FiltreBordereaux::Genre genre);
     FiltreBordereaux filtre(FiltreBordereaux::Genre genre) const;
     bool estDansPeriode() const;
 

@@ -40,7 +40,7 @@ QList<controls::Column> colonnes()
             {u"Cas."_s, 580, Qt::AlignHCenter},
             {u"Brut"_s, 1420, Qt::AlignRight},
             {u"Primes"_s, 1060, Qt::AlignRight},
-            {u"Comm."_s, 1040, Qt::AlignRight},
+            {u"Comm."_s, 1200, Qt::AlignRight}, // a commission of a million is not cut
             {u"Frais"_s, 1080, Qt::AlignRight},
             {u"Net"_s, 1440, Qt::AlignRight},
             {u"Fact"_s, 630, Qt::AlignHCenter},
@@ -161,14 +161,23 @@ void DialogueBordereaux::montrerCadre(QWidget* cadre)
         autre->setVisible(false);
     for (const int index : std::as_const(m_indexCommandes))
         m_commandes->button(index)->setVisible(liste);
+    m_commandes->updateGeometry();
     m_grille->setEnabled(liste);
     montrerFleches();
-    if (cadre)
+    if (cadre) {
         cadre->show();
-    else if (liste)
+        garderEnVue();
+    } else if (liste)
         m_grille->setFocus();
     else
         m_quitter->setFocus();
+}
+
+/// The frame is taller than the commands that it replaces, and must not cover the row that it is about.
+void DialogueBordereaux::garderEnVue()
+{
+    layout()->activate();
+    m_grille->scrollTo(m_grille->currentIndex());
 }
 
 void DialogueBordereaux::charger()

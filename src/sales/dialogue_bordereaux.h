@@ -60,6 +60,7 @@ private:
     QWidget* creerFleches();
     void montrerFleches();
     void deplacer(int pas);
+    void garderEnVue();
     void remplir();
     void filtrer(const FiltreBordereaux& filtre);
 

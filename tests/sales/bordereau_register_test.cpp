@@ -258,14 +258,14 @@ TEST_F(Registre, une_panne_pendant_la_suppression_laisse_tout)
 TEST_F(Registre, l_edition_met_ses_titres_sur_le_papier_et_le_registre_non)
 {
     const qint64 num = exemples.bordereau(u"10/03/2026"_s, nadjet);
-    modifier(num, {{"brut", 10000}, {"primes", 1000}, {"Commission", 15}, {"MT_Commission", 1500}});
+    modifier(num, {{"brut", 12001000}, {"primes", 1000}, {"Commission", 15}, {"MT_Commission", 1800150}});
     RegistreBordereaux registre(exercice, Porte::Registre);
     registre.LoadRegister();
     EXPECT_EQ(registre.formule(0), u"{L_Vente.num_bordereau} = "_s + QString::number(num));
     registre.ecrireTextes(0);
     exercice.textes.requery();
     EXPECT_EQ(exercice.textes.text("ch4"), QString());
-    EXPECT_EQ(exercice.textes.text("ch6"), u"1 350.00"_s) << "the premiums deducted first";
+    EXPECT_EQ(exercice.textes.text("ch6"), u"1 800 000.00"_s) << "the premiums deducted first";
 
     RegistreBordereaux edition(exercice, Porte::Edition);
     edition.LoadRegister();

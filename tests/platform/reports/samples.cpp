@@ -90,6 +90,44 @@ QList<SampleRow> invoiceRows(int num, int ordre, int lines)
     return rows;
 }
 
+QList<SampleRow> slipRows(int lines, int expenses)
+{
+    SampleRow slip = {{u"L_Vente.num_bordereau"_s, 31},
+                      {u"Bordereaux.num"_s, 31},
+                      {u"Bordereaux.ordre"_s, 27},
+                      {u"Bordereaux.Date"_s, u"15/11/2026"_s},
+                      {u"Bordereaux.brut"_s, 1234567.5},
+                      {u"Bordereaux.primes"_s, 5000},
+                      {u"Bordereaux.Commission"_s, 12.5},
+                      {u"Bordereaux.frais"_s, 1250 * expenses},
+                      {u"Bordereaux.net"_s, 1234567.5 - 5000 - 153695.94 - 1250 * expenses},
+                      {u"Chalutiers.denom"_s, u"Étoile de Ténès"_s},
+                      {u"Chalutiers.matricule"_s, u"TN 0417"_s},
+                      {u"Chalutiers.Port"_s, u"Ténès"_s},
+                      {u"Armateurs.nom"_s, u"BENALI"_s},
+                      {u"Armateurs.prenom"_s, u"Mohamed"_s},
+                      {u"Armateurs.ville"_s, u"Ténès"_s}};
+    for (int i = 1; i <= 10; ++i) {
+        slip[u"Bordereaux.Libelle%1"_s.arg(i)] = i == 2 ? QString() : u"Dépense %1"_s.arg(i);
+        slip[u"Bordereaux.Frais%1"_s.arg(i)] = i <= expenses ? 1250 : 0;
+    }
+    QList<SampleRow> rows;
+    for (int i = 0; i < lines; ++i) {
+        SampleRow row = slip;
+        const double weight = i % 5 == 4 ? 0 : 12.5 * (i % 9 + 1), price = 180 + 65.5 * (i % 14);
+        row.insert({{u"L_Vente.num"_s, 100 + i},
+                    {u"L_Vente.Casiers"_s, i % 9},
+                    {u"L_Vente.poids"_s, weight},
+                    {u"L_Vente.PU"_s, price},
+                    {u"L_Vente.Total"_s, (weight > 0 ? weight : i % 9) * price},
+                    {u"Clients.nom"_s, i == 3 ? u"FUMAISON DES TROIS ROCHERS"_s : surnames[i % surnames.size()]},
+                    {u"Clients.prenom"_s, i == 3 ? u"E.U.R.L."_s : firstNames[i % firstNames.size()]},
+                    {u"Poissons.denom"_s, fishNames[i % fishNames.size()]}});
+        rows.append(row);
+    }
+    return rows;
+}
+
 QList<SampleRow> clients(int count)
 {
     QList<SampleRow> rows;

@@ -12,6 +12,8 @@ SampleRow deliveryNoteTexts(int ordre);
 SampleRow listTexts();
 
 QList<SampleRow> invoiceRows(int num, int ordre, int lines);
+/// The lines of one bordereau; of its expenses the first `expenses` have an amount, the second of them no label.
+QList<SampleRow> slipRows(int lines, int expenses);
 QList<SampleRow> clients(int count);
 /// Rows of the listing of invoices; the fifth is a regularisation.
 QList<SampleRow> listedInvoices(int count);

@@ -31,6 +31,17 @@ reports::Document printInvoice(int lines, const SampleRow& texts)
     return print(u"Facture.RPT"_s, source);
 }
 
+reports::Document printSlip(int lines, int expenses)
+{
+    MemorySource source;
+    SampleRow texts = samples::listTexts();
+    texts[u"textes.ch4"_s] = u"Facture reprise"_s; // left by the last print
+    texts[u"textes.ch6"_s] = u"153 695.94"_s;
+    source.tables[u"textes"_s] = {texts};
+    source.tables[u"L_Vente"_s] = samples::slipRows(lines, expenses);
+    return print(u"BORDERO.RPT"_s, source);
+}
+
 /// Holds the texts and places of a document against a kept file. After a change that is meant, run with
 /// TALOR_KEEP=<folder>: the new files and a PDF of each to look at are written there.
 void compareWithKept(const reports::Document& document, const QString& name)
@@ -55,6 +66,7 @@ TEST(Templates, PrintWhatTheyPrintedBefore)
     compareWithKept(printInvoice(4, samples::invoiceTexts(12)), u"facture"_s);
     compareWithKept(printInvoice(4, samples::deliveryNoteTexts(12)), u"bon_de_livraison"_s);
     compareWithKept(printInvoice(80, samples::invoiceTexts(12)), u"facture_80_lignes"_s);
+    compareWithKept(printSlip(12, 4), u"bordereau"_s);
     MemorySource source = samples::everything(1);
     source.tables[u"Clients"_s] = samples::clients(24);
     source.tables[u"Csse"_s] = samples::listedInvoices(60);
@@ -173,6 +185,46 @@ TEST(Invoice, WithoutLinesPrintsAllTheSame)
 {
     const QString text = linesOf(printInvoice(0, samples::invoiceTexts(12)), 0).join(u'\n');
     EXPECT_TRUE(text.contains(u"HADJ-SADOK  Aïcha"_s) && text.contains(u"Total poisson"_s)) << text.toStdString();
+}
+
+TEST(Slip, OfTwentyFiveLinesTakesOneSheetWhateverItsExpenses)
+{
+    EXPECT_EQ(printSlip(25, 10).pageCount(), 1);
+}
+
+TEST(Slip, ListsTheExpensesThatHaveAnAmountEachBesideItsLabel)
+{
+    QStringList text = linesOf(printSlip(3, 4), 0);
+    EXPECT_EQ(text.filter(u"Dépense"_s).size(), 3);
+    EXPECT_EQ(text.filter(u" 1 250.00"_s).size(), 4) << "the one without a label too";
+    const QString all = text.join(u'\n');
+    for (const QString& part :
+         {u"Brut | 1 234 567.50"_s, u"Primes | 5 000.00"_s, u"Commission  (12.50 %) | 153 695.94"_s,
+          u"Frais | 5 000.00"_s, u"Net (DA) | 1 070 871.56"_s})
+        EXPECT_TRUE(all.contains(part)) << part.toStdString() << all.toStdString();
+    EXPECT_FALSE(all.contains(u"Facture reprise"_s)) << "no text of another print";
+}
+
+TEST(Slip, OverSeveralPagesRepeatsItsHeadingsAndKeepsItsEndTogether)
+{
+    for (int lines = 20; lines <= 80; lines += 3) {
+        const reports::Document document = printSlip(lines, 10);
+        int rows = 0;
+        for (int page = 0; page < document.pageCount(); ++page) {
+            const QStringList text = linesOf(document, page);
+            const bool last = page == document.pageCount() - 1;
+            EXPECT_EQ(text.filter(u"N° | Client | Poisson"_s).size(), 1) << lines;
+            EXPECT_EQ(text.filter(u"Report :"_s).size(), page > 0) << lines;
+            EXPECT_EQ(text.filter(u"Total des ventes"_s).size(), last) << lines;
+            EXPECT_EQ(text.filter(u"Net (DA)"_s).size(), last) << lines;
+            int here = 0;
+            for (const QString& line : text)
+                here += line.front().isDigit() && line.contains(u" | "_s);
+            EXPECT_GT(here, 0) << "totals alone, " << lines;
+            rows += here;
+        }
+        EXPECT_EQ(rows, lines);
+    }
 }
 
 } // namespace
