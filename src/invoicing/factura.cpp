@@ -55,8 +55,8 @@ struct Textes
     QString legende, nom, combo, image, tous, chercher;
 };
 const Textes textesChoix[] = {
-    {u"N° du client"_s, u"Client"_s, u"Combo1"_s, u"clients"_s, u"Tous les clients"_s, u"Chercher un client"_s},
-    {u"N° du bateau"_s, u"Bateau"_s, u"Combo2"_s, u"bateau"_s, u"Tous les bateaux"_s, u"Chercher un bateau"_s}};
+    {u"Fiche du client"_s, u"Client"_s, u"Combo1"_s, u"clients"_s, u"Tous les clients"_s, u"Chercher un client"_s},
+    {u"Fiche du bateau"_s, u"Bateau"_s, u"Combo2"_s, u"bateau"_s, u"Tous les bateaux"_s, u"Chercher un bateau"_s}};
 
 } // namespace
 

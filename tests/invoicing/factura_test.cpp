@@ -61,8 +61,8 @@ TEST_F(FacturaTest, au_clavier_un_client_est_facture_et_sa_facture_s_ouvre_a_sa_
     Factura d(t.exercice);
     show(d);
     EXPECT_EQ(control<QLineEdit>(d, u"Text1"_s)->text(), u"15/06/2026"_s);
-    EXPECT_EQ(entree(d, u"Combo1"_s), u"Ensemble"_s);
-    EXPECT_EQ(entree(d, u"Combo2"_s), u"Ensemble"_s);
+    EXPECT_EQ(entree(d, u"Combo1"_s), u" Ensemble"_s);
+    EXPECT_EQ(entree(d, u"Combo2"_s), u" Ensemble"_s);
     const auto liste = whenOpened<Fact_Bis>([](Fact_Bis& bis) {
         EXPECT_EQ(control<QLabel>(bis, u"Label4(0)"_s)->text(), u"Journée du  20/06/2026"_s);
         EXPECT_EQ(control<controls::Grid>(bis, u"Grid1"_s)->text(0, 2), u"ZOULIM   "_s);
@@ -103,7 +103,7 @@ TEST_F(FacturaTest, au_pointeur_date_client_et_bateau_se_choisissent)
     }
     EXPECT_EQ(entree(d, u"Combo1"_s), u"AMARI"_s) << "given up: all stays";
     click(d, u"Image4(0)"_s);
-    EXPECT_EQ(entree(d, u"Combo1"_s), u"Ensemble"_s);
+    EXPECT_EQ(entree(d, u"Combo1"_s), u" Ensemble"_s);
     EXPECT_EQ(control<QLineEdit>(d, u"Text2(1)"_s)->text(), u"-1"_s);
     {
         const auto choix = whenOpened<Q_Bateau>([](Q_Bateau& q) { click(q, u"Image1(0)"_s); });
@@ -111,7 +111,7 @@ TEST_F(FacturaTest, au_pointeur_date_client_et_bateau_se_choisissent)
     }
     EXPECT_EQ(entree(d, u"Combo2"_s), u"AMAL"_s);
     click(d, u"Image4(2)"_s);
-    EXPECT_EQ(entree(d, u"Combo2"_s), u"Ensemble"_s);
+    EXPECT_EQ(entree(d, u"Combo2"_s), u" Ensemble"_s);
     control<QComboBox>(d, u"Combo2"_s)->setFocus();
     press(d, Qt::Key_Up);
     EXPECT_EQ(control<QLineEdit>(d, u"Text2(2)"_s)->text(), QString::number(nadjet)) << "the number follows the list";
@@ -157,7 +157,7 @@ TEST_F(FacturaTest, un_numero_inconnu_se_dit_en_quittant_le_champ)
     type(d, u"Text2(1)"_s, u"99"_s);
     press(d, Qt::Key_Return);
     EXPECT_EQ(d.focusWidget()->objectName(), u"Text2(1)"_s);
-    EXPECT_EQ(entree(d, u"Combo1"_s), u"Ensemble"_s);
+    EXPECT_EQ(entree(d, u"Combo1"_s), u" Ensemble"_s);
     press(d, Qt::Key_Escape);
     EXPECT_FALSE(d.isVisible()) << "nobody is asked again on the way out";
 }
