@@ -57,7 +57,7 @@ CadreLigne::CadreLigne(const SaisieBordereau& saisie, QWidget* parent)
     auto* colonne = new QVBoxLayout(this);
     colonne->setContentsMargins(16, 10, 16, 10);
     colonne->setSpacing(10);
-    colonne->addWidget(m_titre);
+    colonne->addWidget(creerTete());
     colonne->addWidget(creerChamps());
     colonne->addWidget(creerPied());
     enchainer();
@@ -111,21 +111,31 @@ QWidget* CadreLigne::creerChamps()
     return panneau;
 }
 
-/// The names as a line will carry them, and the buttons.
+/// What is being done, and the names as the line will carry them.
+QWidget* CadreLigne::creerTete()
+{
+    auto* tete = new QWidget;
+    auto* ligne = new QHBoxLayout(tete);
+    ligne->setContentsMargins({});
+    auto* noms = new QVBoxLayout;
+    noms->setSpacing(2);
+    for (QLabel* nom : m_noms) {
+        nom->setAlignment(Qt::AlignRight);
+        nom->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        noms->addWidget(nom);
+    }
+    ligne->addWidget(m_titre, 0, Qt::AlignTop);
+    ligne->addLayout(noms, 1);
+    return tete;
+}
+
 QWidget* CadreLigne::creerPied()
 {
     auto* pied = new QWidget;
     auto* ligne = new QHBoxLayout(pied);
     ligne->setContentsMargins({});
     ligne->setSpacing(6);
-    auto* noms = new QVBoxLayout;
-    noms->setSpacing(2);
-    for (QLabel* nom : m_noms) {
-        nom->setMinimumWidth(60);
-        nom->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        noms->addWidget(nom);
-    }
-    ligne->addLayout(noms, 1);
+    ligne->addStretch();
     const auto ajouter = [&](int index, QStringView icone, const QString& legende, const QKeySequence& raccourci) {
         auto* bouton = named(controls::compactButton(icone, legende, raccourci), u"Image1", index);
         ligne->addWidget(bouton);

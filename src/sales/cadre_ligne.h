@@ -77,6 +77,7 @@ signals:
 
 private:
     void creerChoix(ChoixLigne choix);
+    QWidget* creerTete();
     QWidget* creerChamps();
     QWidget* creerPied();
     void enchainer();

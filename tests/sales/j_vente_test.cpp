@@ -377,6 +377,27 @@ TEST_F(j_venteTest, le_second_appui_d_un_double_clic_sur_un_client_ne_choisit_pa
     });
 }
 
+TEST_F(j_venteTest, les_touches_des_paves_ont_la_largeur_d_un_doigt)
+{
+    saisir(demande(), [](j_vente& d) {
+        const auto largeurs = [&](const QString& famille) {
+            for (int i = 0; i <= 10; ++i) {
+                const QWidget* touche = control(d, u"%1(%2)"_s.arg(famille).arg(i));
+                EXPECT_GE(touche->width() * 25.4 / touche->logicalDpiX(), 12.0) << famille.toStdString() << i;
+                EXPECT_GE(touche->height() * 25.4 / touche->logicalDpiY(), 12.0) << famille.toStdString() << i;
+            }
+        };
+        press(d, Qt::Key_F7);
+        largeurs(u"SSCommand11"_s);
+        press(d, Qt::Key_Escape);
+        press(d, Qt::Key_Escape);
+        press(d, Qt::Key_F6);
+        largeurs(u"SSCommand10"_s);
+        press(d, Qt::Key_Escape);
+        quitter(d);
+    });
+}
+
 TEST_F(j_venteTest, le_pave_demande_le_client_et_le_poisson_et_se_quitte_sans_rien_poser)
 {
     saisir(demande(), [&](j_vente& d) {
