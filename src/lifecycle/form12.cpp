@@ -2,7 +2,6 @@
 
 #include "core/montrer.h"
 #include "lifecycle/premier_exercice.h"
-#include "platform/controls/command_bar.h"
 #include "platform/controls/field_chain.h"
 #include "platform/controls/labels.h"
 #include "platform/controls/named.h"
@@ -45,18 +44,7 @@ Form12::Form12(const Installation& installation, const QString& CodeFichier, QWi
     body()->addLayout(ligne);
     body()->addStretch();
 
-    auto* boutons = new controls::CommandBar(u"Image5"_s);
-    boutons->addStretch();
-    boutons->add(Accepter, u"ok", u"OK"_s)->setPrimary();
-    boutons->add(Annuler, u"annuler", u"Annuler"_s);
-    commands()->addWidget(boutons);
-    setCancel({boutons->button(Annuler)});
-    connect(boutons, &controls::CommandBar::triggered, this, [this](int bouton) {
-        if (bouton == Accepter)
-            valider();
-        else
-            leave();
-    });
+    askAtFoot(u"Image5"_s, Accepter, Annuler, [this] { valider(); });
 
     auto* chaine = new controls::FieldChain(this);
     chaine->add(m_annee);

@@ -73,19 +73,7 @@ Q_Filtre::Q_Filtre(const Exercice& exercice, QWidget* parent)
     body()->addWidget(creerArchives());
     body()->addStretch();
 
-    auto* commandes = new controls::CommandBar(u"Image2"_s);
-    commandes->addStretch();
-    commandes->add(Prendre, u"ok", u"OK"_s)->setPrimary();
-    auto* annuler = commandes->add(Annuler, u"annuler", u"Annuler"_s);
-    this->commands()->addWidget(commandes);
-    setCancel({annuler});
-
-    connect(commandes, &controls::CommandBar::triggered, this, [this](int index) {
-        if (index == Prendre)
-            prendre();
-        else
-            leave();
-    });
+    askAtFoot(u"Image2"_s, Prendre, Annuler, [this] { prendre(); });
     connect(m_pages, &QTabWidget::currentChanged, this, &Q_Filtre::changerPage);
     m_mois->setFocus();
 }

@@ -1,6 +1,5 @@
 #include "shell/form_v2.h"
 
-#include "platform/controls/command_bar.h"
 #include "platform/controls/digit_pad.h"
 #include "platform/controls/field_chain.h"
 #include "platform/controls/labels.h"
@@ -40,18 +39,7 @@ Form_v2::Form_v2(Exercice& exercice, Verrou verrou, QWidget* parent)
         new controls::DigitPad({u"SSCommand1"_s, controls::familyName(u"Image1", EffacerDernier)}, {m_mot}));
     body()->addLayout(colonnes);
 
-    auto* commandes = new controls::CommandBar(u"Image1"_s);
-    commandes->addStretch();
-    commandes->add(Valider, u"ok", u"OK"_s)->setPrimary();
-    auto* annuler = commandes->add(Quitter, u"annuler", u"Annuler"_s);
-    this->commands()->addWidget(commandes);
-    setCancel({annuler});
-    connect(commandes, &controls::CommandBar::triggered, this, [this](int index) {
-        if (index == Valider)
-            valider();
-        else
-            leave();
-    });
+    askAtFoot(u"Image1"_s, Valider, Quitter, [this] { valider(); });
 
     auto* chaine = new controls::FieldChain(this);
     chaine->add(m_mot);

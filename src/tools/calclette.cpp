@@ -2,7 +2,6 @@
 
 #include "core/helpers.h"
 #include "core/jouer.h"
-#include "platform/controls/command_bar.h"
 #include "platform/controls/field_chain.h"
 #include "platform/controls/labels.h"
 #include "platform/controls/look.h"
@@ -89,18 +88,7 @@ Calclette::Calclette(Emploi emploi, const Exercice& exercice, QWidget* parent)
     colonnes->addWidget(creerPave());
     body()->addLayout(colonnes);
 
-    auto* commandes = new controls::CommandBar(u"Image1"_s);
-    commandes->addStretch();
-    commandes->add(Valider, u"ok", u"OK"_s)->setPrimary();
-    auto* annuler = commandes->add(Annuler, u"annuler", u"Annuler"_s);
-    this->commands()->addWidget(commandes);
-    setCancel({annuler});
-    connect(commandes, &controls::CommandBar::triggered, this, [this](int index) {
-        if (index == Valider)
-            valider();
-        else
-            leave();
-    });
+    askAtFoot(u"Image1"_s, Valider, Annuler, [this] { valider(); });
     suivreClics(exercice);
     // The keyboard types into the pad, not on the command that Qt would put in focus.
     if (emploi == Emploi::Chiffres) {

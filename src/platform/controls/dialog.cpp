@@ -1,5 +1,6 @@
 #include "platform/controls/dialog.h"
 
+#include "platform/controls/command_bar.h"
 #include "platform/controls/look.h"
 #include "platform/controls/named.h"
 
@@ -13,6 +14,8 @@
 #include <QScrollBar>
 
 namespace controls {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -73,6 +76,21 @@ void Dialog::setTitle(const QString& title)
 void Dialog::setCancel(const QList<QAbstractButton*>& buttons)
 {
     m_cancel = QList<QPointer<QAbstractButton>>(buttons.cbegin(), buttons.cend());
+}
+
+void Dialog::askAtFoot(const QString& family, int accept, int cancel, std::function<void()> accepted)
+{
+    auto* bar = new CommandBar(family);
+    bar->addStretch();
+    bar->add(accept, u"ok", u"OK"_s)->setPrimary();
+    setCancel({bar->add(cancel, u"annuler", u"Annuler"_s)});
+    m_commands->addWidget(bar);
+    connect(bar, &CommandBar::triggered, this, [this, accept, accepted = std::move(accepted)](int pressed) {
+        if (pressed == accept)
+            accepted();
+        else
+            leave();
+    });
 }
 
 void Dialog::done(int result)
