@@ -5,9 +5,10 @@
 #   make demo                 play the demonstration into out/; with a display, leave the program open on it
 #   make test                 build and run all tests
 #   make asan                 the same under the address and undefined-behaviour sanitizers
+#   make bench                measure the program beside the same work written straight on SQLite and QPainter
 #   make install DEST=dossier lay out a folder that runs by itself
 
-.PHONY: run demo test asan install format tidy clean dependances build
+.PHONY: run demo test asan bench install format tidy clean dependances build
 .DEFAULT_GOAL := run
 
 DOSSIER ?= TALOR
@@ -33,6 +34,11 @@ asan: dependances
 	cmake --preset asan
 	cmake --build --preset asan
 	ctest --preset asan
+
+bench: dependances
+	cmake --preset release -DTALOR_BENCH=ON
+	cmake --build --preset release --target talor_bench
+	build/release/bench/talor_bench
 
 install: build
 	@test -n "$(DEST)" || { echo "make install DEST=dossier" >&2; exit 2; }

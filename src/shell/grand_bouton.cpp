@@ -60,7 +60,7 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     m_rangee->addSpacing(halo + ecart);
     m_rangee->addWidget(m_libelle);
     m_rangee->addStretch(1);
-    montrerIcone(iconeMin);
+    m_image->setMinimumSize(iconeMin, iconeMin); // its picture is drawn when its place is known
 }
 
 void GrandBouton::setFonds(QColor repos, QColor allume)
@@ -114,6 +114,7 @@ void GrandBouton::disposer()
 
 void GrandBouton::montrerIcone(int cote)
 {
+    m_cote = cote;
     const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
     m_image->setPixmap(m_icone.pixmap(QSize(cote, cote), devicePixelRatioF(), mode));
 }
@@ -168,8 +169,8 @@ void GrandBouton::keyPressEvent(QKeyEvent* event)
 void GrandBouton::changeEvent(QEvent* event)
 {
     QAbstractButton::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange)
-        disposer();
+    if (event->type() == QEvent::EnabledChange && m_cote > 0)
+        montrerIcone(m_cote);
 }
 
 } // namespace talor

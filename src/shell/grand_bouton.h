@@ -52,6 +52,7 @@ private:
     void montrerIcone(int cote);
 
     QIcon m_icone;
+    int m_cote = 0; ///< of the picture as drawn; 0 until its place is known
     Disposition m_disposition;
     QLabel* m_image;
     QLabel* m_libelle;

@@ -27,7 +27,7 @@ QString current()
 
 bool available()
 {
-    return !names().isEmpty();
+    return !nothingPrints; // the PDF is always there: no need to ask the machine for its printers
 }
 
 void setNothingPrints(bool nothing)
