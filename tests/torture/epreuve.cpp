@@ -1,6 +1,7 @@
 #include "epreuve.h"
 
 #include "controle.h"
+#include "coupures.h"
 #include "ouvrier.h"
 
 #include <QFile>
@@ -17,6 +18,8 @@ namespace {
 
 constexpr int nbActions = 60;
 constexpr int nbOuverts = 5;
+constexpr int nbCoupures = 40;
+constexpr int nbCoupuresMax = 1000;
 
 /// What only the witness can see: the file is sound, but not what was announced.
 const Falsification contraAnnonces[] = {
@@ -39,9 +42,24 @@ bool falsifier(const QString& chemin, const QByteArray& sql)
     return faite;
 }
 
-} // namespace
+void eprouverDisques(Banc& banc)
+{
+    const std::pair<QString, Disk::Obeys> disques[] = {
+        {u"un disque qui n'écrit pas quand on le lui demande"_s, Disk::Obeys::Nothing},
+        {u"un disque qui ne garde pas les noms quand on le lui demande"_s, Disk::Obeys::FileSyncs},
+    };
+    for (const auto& [nom, obeys] : disques) {
+        int vues = 0;
+        int coupures = 0;
+        for (; vues == 0 && coupures < nbCoupuresMax; coupures += nbCoupures)
+            vues = couper(banc, nbCoupures, obeys);
+        std::printf("%s : %d coupures sur %d perdent des actes\n", qUtf8Printable(nom), vues, coupures);
+        if (vues == 0)
+            banc.accuser(u"épreuve"_s, {nom + u" devait perdre des actes"_s});
+    }
+}
 
-int eprouver(Banc& banc)
+void eprouverFichiers(Banc& banc)
 {
     const QTemporaryDir dossier;
     preparerExercice(dossier.path());
@@ -55,7 +73,6 @@ int eprouver(Banc& banc)
         ouvrier.nouveauBordereau(); // so that there are open lines
     exercice->FermerBase();
 
-    const int fautesAvant = banc.fautes;
     banc.accuser(u"épreuve, fichier sain"_s, examiner(dossier.path(), temoin));
     const QString sain = dossier.filePath(u"sain"_s);
     QFile::copy(exercice->CheminBase, sain);
@@ -71,8 +88,15 @@ int eprouver(Banc& banc)
         QFile::remove(exercice->CheminBase);
         QFile::copy(sain, exercice->CheminBase);
     }
-    std::printf("%d falsifications, %d non vue(s)\n", static_cast<int>(toutes.size()), banc.fautes - fautesAvant);
-    return banc.fautes - fautesAvant;
+    std::printf("%d falsifications à voir\n", static_cast<int>(toutes.size()));
+}
+
+} // namespace
+
+void eprouver(Banc& banc)
+{
+    eprouverFichiers(banc);
+    eprouverDisques(banc);
 }
 
 } // namespace torture

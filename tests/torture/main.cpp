@@ -1,3 +1,4 @@
+#include "coupures.h"
 #include "epreuve.h"
 #include "kills.h"
 
@@ -16,6 +17,7 @@ int main(int argc, char** argv)
     QCommandLineParser options;
     options.addHelpOption();
     options.addOption({u"morts"_s, u"Processus tués."_s, u"nombre"_s, u"0"_s});
+    options.addOption({u"coupures"_s, u"Coupures de courant."_s, u"nombre"_s, u"0"_s});
     options.addOption({u"graine"_s, u"Celle d'une autre fois."_s, u"nombre"_s});
     options.process(application);
 
@@ -24,5 +26,8 @@ int main(int argc, char** argv)
     torture::Banc banc(graine);
     torture::eprouver(banc);
     torture::tuer(banc, options.value(u"morts"_s).toInt());
+    const int coupures = options.value(u"coupures"_s).toInt();
+    const int fautives = torture::couper(banc, coupures);
+    std::printf("%d coupures de courant : %d faute(s)\n", coupures, fautives);
     return banc.fautes == 0 ? 0 : 1;
 }

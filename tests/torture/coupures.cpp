@@ -1,0 +1,146 @@
+#include "coupures.h"
+
+#include "ouvrier.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+namespace torture {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int coupuresParSerie = 20;
+constexpr int actionsMax = 60;     ///< of a recorded work
+constexpr size_t lignesMax = 3000; ///< of a file; then the next one begins
+
+/// A folder at a moment, and who knows what was announced in it.
+struct Depart
+{
+    FolderContent dossier;
+    Temoin temoin;
+};
+
+struct Serie
+{
+    QString echec; ///< the work itself went wrong
+    int coupures = 0;
+    int fautives = 0;
+    Depart suite;
+};
+
+Annonce annonceDe(const QByteArray& note)
+{
+    Annonce annonce;
+    Q_ASSERT(note.size() == sizeof annonce);
+    std::memcpy(&annonce, note.constData(), sizeof annonce);
+    return annonce;
+}
+
+/// The calls of a process that works on the folder and then dies.
+QString enregistrer(Banc& banc, const QString& dossier, const QString& journal)
+{
+    const quint32 graine = banc.hasard();
+    const int actions = static_cast<int>(banc.logarithmique(1, actionsMax));
+    return attendreFin(lancer([&] {
+        recordCalls(dossier, journal);
+        const auto exercice = exerciceDe(dossier);
+        exercice->OuvrirBase();
+        exercice->LireParametres();
+        const auto annoncer = [](const Annonce& annonce) {
+            recordNote(QByteArray(reinterpret_cast<const char*>(&annonce), sizeof annonce));
+        };
+        Ouvrier(*exercice, graine, annoncer).travailler(actions);
+        _exit(0); // without a close, as the cut would have it
+    }));
+}
+
+/// Moments of the cuts, as numbers of calls done: half of them anywhere, half right behind an announcement.
+QList<qsizetype> moments(Banc& banc, const QList<CallRecord>& appels, int nombre)
+{
+    QList<qsizetype> annonces;
+    for (qsizetype i = 0; i < appels.size(); ++i)
+        if (appels[i].call == Call::Note && annonceDe(appels[i].bytes).faite)
+            annonces += i + 1;
+    QList<qsizetype> choisis;
+    for (int i = 0; i < nombre; ++i) {
+        const bool apresAnnonce = i % 2 == 1 && !annonces.isEmpty();
+        choisis += apresAnnonce ? annonces[banc.entre(0, static_cast<int>(annonces.size()) - 1)]
+                                : banc.entre(0, static_cast<int>(appels.size()));
+    }
+    std::sort(choisis.begin(), choisis.end());
+    return choisis;
+}
+
+Serie couperUneSerie(Banc& banc, const Depart& depart, int nombre, Disk::Obeys obeys)
+{
+    Serie serie;
+    const QTemporaryDir lieu;
+    const QString dossier = lieu.filePath(u"exercice"_s);
+    writeFolder(dossier, depart.dossier);
+    serie.echec = enregistrer(banc, dossier, lieu.filePath(u"appels"_s));
+    const QList<CallRecord> appels = readCalls(lieu.filePath(u"appels"_s));
+    const QList<qsizetype> coupures = moments(banc, appels, nombre);
+    const int suite = banc.entre(0, nombre - 1);
+
+    Disk disque(depart.dossier, obeys);
+    Temoin temoin = depart.temoin;
+    for (qsizetype fait = 0, coupure = 0; fait <= appels.size(); ++fait) {
+        for (; coupure < coupures.size() && coupures[coupure] == fait; ++coupure) {
+            const QTemporaryDir trouve;
+            Depart ici{disque.afterPowerCut(banc.hasard), temoin};
+            writeFolder(trouve.path(), ici.dossier);
+            const QStringList fautes = examiner(trouve.path(), ici.temoin);
+            ++serie.coupures;
+            serie.fautives += !fautes.isEmpty();
+            if (obeys == Disk::Obeys::Everything)
+                banc.accuser(u"coupure après %1 appels sur %2"_s.arg(fait).arg(appels.size()), fautes);
+            if (coupure == suite)
+                serie.suite = ici;
+        }
+        if (fait == appels.size())
+            break;
+        disque.replay(appels[fait]);
+        if (appels[fait].call == Call::Note)
+            temoin.entendre(annonceDe(appels[fait].bytes));
+    }
+    if (disque.asItStands() != readFolder(dossier))
+        serie.echec += u"les appels enregistrés ne rendent pas le dossier"_s;
+    return serie;
+}
+
+Depart neuf()
+{
+    const QTemporaryDir dossier;
+    preparerExercice(dossier.path());
+    return {readFolder(dossier.path()), Temoin()};
+}
+
+} // namespace
+
+int couper(Banc& banc, int coupures, Disk::Obeys obeys)
+{
+    std::optional<Depart> depart;
+    int faites = 0;
+    int fautives = 0;
+    while (faites < coupures) {
+        if (!depart || depart->temoin.livre().lignes.size() > lignesMax)
+            depart = neuf();
+        Serie serie = couperUneSerie(banc, *depart, qMin(coupuresParSerie, coupures - faites), obeys);
+        faites += serie.coupures;
+        fautives += serie.fautives;
+        if (!serie.echec.isEmpty())
+            banc.accuser(u"série de coupures"_s, {serie.echec});
+        if (serie.fautives > 0 || !serie.echec.isEmpty())
+            depart.reset();
+        else
+            depart = serie.suite;
+    }
+    return fautives;
+}
+
+} // namespace torture
