@@ -5,7 +5,7 @@
 #include "invoicing/invoice_register.h"
 #include "platform/controls/grid.h"
 #include "platform/controls/look.h"
-#include "sales/bordereau_register.h"
+#include "sales/f_bord.h"
 
 #include <QApplication>
 #include <QHash>
@@ -87,6 +87,7 @@ QString amount(double value)
 
 // --- Bordereaux ------------------------------------------------------------------------------------------------------
 
+const std::string registerName = "the register's window opened on 20,000 bordereaux";
 const std::string bordereauxName = "register of 20,000 bordereaux read and painted";
 
 void showBordereaux(benchmark::State& state)
@@ -101,6 +102,18 @@ void showBordereaux(benchmark::State& state)
         benchmark::DoNotOptimize(grid->grab());
     }
     holdSame(state, bordereauxName, grid->rowCount());
+}
+
+/// The whole dialog, from nothing to its first painting.
+void openRegister(benchmark::State& state)
+{
+    const auto exercise = open(folderOf(medium));
+    for (auto _ : state) {
+        F_Bord window(*exercise, {});
+        window.show();
+        QApplication::processEvents();
+        benchmark::DoNotOptimize(window.grab());
+    }
 }
 
 struct RawBordereau
@@ -287,6 +300,7 @@ void showInvoicesRaw(benchmark::State& state, bool wholeYear)
 void addLists()
 {
     add({.name = bordereauxName, .program = showBordereaux, .raw = showBordereauxRaw, .aim = 2});
+    add({.name = registerName, .program = openRegister, .raw = showBordereauxRaw});
     for (const bool wholeYear : {false, true}) {
         add({.name = wholeYear ? yearName : dayName,
              .program = [wholeYear](benchmark::State& state) { showInvoices(state, wholeYear); },

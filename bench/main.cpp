@@ -44,6 +44,7 @@ int main(int argc, char** argv)
         using namespace talor::bench;
         addStore();
         addSale();
+        addEntry();
         addInvoicing();
         addLists();
         addPaper();
