@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 
 #include <cstdio>
 #include <stdexcept>
@@ -375,13 +376,14 @@ void copyExercise(const QString& from, const QString& to)
         throw std::runtime_error("cannot copy the exercise");
 }
 
-QString workingFolder()
+QString workingFolder(const QString& subject)
 {
-    static const QString folder = [] {
-        const QString made = prepareFolder(u"travail"_s);
-        copyExercise(folderOf(medium), made);
-        return made;
-    }();
+    static QHash<QString, QString> folders;
+    QString& folder = folders[subject];
+    if (folder.isEmpty()) {
+        folder = prepareFolder(subject);
+        copyExercise(folderOf(medium), folder);
+    }
     return folder;
 }
 

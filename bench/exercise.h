@@ -31,8 +31,8 @@ QString folderOf(const Size& size);
 /// File of the exercise in a folder.
 QString fileIn(const QString& folder);
 
-/// Folder with a copy of the medium exercise that a case may change.
-QString workingFolder();
+/// Folder with a copy of the medium exercise that the cases of one subject may change.
+QString workingFolder(const QString& subject);
 /// The same with all its lines open: no invoice, no mark, no debit.
 QString folderOfOpenLines();
 /// A fresh copy of the file of one folder in another.

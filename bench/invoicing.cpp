@@ -25,8 +25,9 @@ double leftBehind(Raw& file)
 
 QString freshCopy()
 {
-    copyExercise(folderOfOpenLines(), workingFolder());
-    return workingFolder();
+    const QString folder = workingFolder(u"facturation"_s);
+    copyExercise(folderOfOpenLines(), folder);
+    return folder;
 }
 
 void invoice(benchmark::State& state)

@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QPaintEvent>
 #include <QPrinterInfo>
 
@@ -25,9 +24,14 @@ constexpr int batch = 1000;
 const std::string batchName = "1,000 invoices to one PDF";
 const std::string clickName = "one invoice from the click to its first page";
 
+QString folder()
+{
+    return workingFolder(u"papier"_s);
+}
+
 QString pdf(const QString& name)
 {
-    return QDir(workingFolder()).filePath(name);
+    return QDir(folder()).filePath(name);
 }
 
 RegistreFactures firstInvoices(Exercice& exercise)
@@ -54,7 +58,7 @@ Etat invoiceOf(RegistreFactures& registre, int rank)
 
 void printBatch(benchmark::State& state)
 {
-    const auto exercise = open(workingFolder());
+    const auto exercise = open(folder());
     RegistreFactures registre = firstInvoices(*exercise);
     int pages = 0;
     for (auto _ : state) {
@@ -86,7 +90,7 @@ std::vector<qint64> firstNumbers(Raw& file)
 
 void printBatchRaw(benchmark::State& state)
 {
-    Raw file(fileIn(workingFolder()));
+    Raw file(fileIn(folder()));
     RawInvoicePrint print(file);
     const std::vector<qint64> nums = firstNumbers(file);
     int pages = 0;
@@ -123,7 +127,7 @@ private:
 
 void showOne(benchmark::State& state)
 {
-    const auto exercise = open(workingFolder());
+    const auto exercise = open(folder());
     RegistreFactures registre = firstInvoices(*exercise);
     int rank = 0;
     for (auto _ : state) {
@@ -140,7 +144,7 @@ void showOne(benchmark::State& state)
 
 void showOneRaw(benchmark::State& state)
 {
-    Raw file(fileIn(workingFolder()));
+    Raw file(fileIn(folder()));
     RawInvoicePrint print(file);
     const std::vector<qint64> nums = firstNumbers(file);
     int rank = 0;

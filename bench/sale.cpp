@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int linesOfABordereau = 20;
-constexpr int recorded = 30 * linesOfABordereau;
-constexpr int unmeasured = 5 * linesOfABordereau; ///< until the pages that a line touches are in memory
+constexpr int recorded = 12 * linesOfABordereau;
+constexpr int unmeasured = 2 * linesOfABordereau; ///< until the pages that a line touches are in memory
 
 SaisieLigne someLine(Dice& dice)
 {
@@ -121,7 +121,8 @@ void addSale()
              .program = [size = size](benchmark::State& state) { recordLines(state, *size); },
              .raw = [size = size](benchmark::State& state) { recordLinesRaw(state, *size); },
              .aim = 1.2,
-             .once = true});
+             .once = true,
+             .repetitions = 21});
     }
     addGrowth("growth of one sale line from 10,000 to 3,000,000", sizes[0].second, sizes[2].second, 1.3);
 }

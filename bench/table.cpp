@@ -16,7 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int repetitions = 5;
 constexpr double secondsARepetition = 0.1;
 
 struct Difference
@@ -161,7 +160,7 @@ void enrol(const Case& each, const std::string& side, const Work& work)
             state.SkipWithError(error.what());
         }
     });
-    enrolled->Repetitions(repetitions)->Unit(benchmark::kMillisecond);
+    enrolled->Repetitions(each.repetitions)->Unit(benchmark::kMillisecond);
     if (each.once)
         enrolled->Iterations(1)->UseManualTime();
     else
@@ -170,22 +169,18 @@ void enrol(const Case& each, const std::string& side, const Work& work)
 
 bool write(const QString& results, const QString& machine, const QString& table)
 {
-    static const QString introduction =
-        u"# Measurements\n\n"
-        "Written by `build/release/bench/talor_bench --results=bench/RESULTS.md`; `make bench` runs the same and "
-        "writes "
-        "nothing.\n\n"
-        "Each case stands beside its raw counterpart in the same run: the same work written straight on SQLite's C "
-        "interface, with\n"
-        "prepared statements, the same settings and the same commits, or straight on QPainter. Medians of %1 "
-        "repetitions, those of the\n"
-        "two sides mixed. The exercise is made from a fixed seed: 2,000 clients, 60 boats, 20,000 bordereaux, 300,000 "
-        "sale lines,\n"
-        "50,000 receipts, 50,000 payments, 20,000 invoices, unless a case says otherwise. What misses its aim is in "
-        "bold.\n\n"_s;
+    static constexpr const char* introduction = R"(# Measurements
+
+Written by `build/release/bench/talor_bench --results=bench/RESULTS.md`; `make bench` runs the same and writes nothing.
+
+Each case stands beside its raw counterpart in the same run: the same work written straight on SQLite's C interface, with prepared
+statements, the same settings and the same commits, or straight on QPainter. Both must come to the same result. Medians of at least
+five repetitions, those of the two sides mixed. The exercise is made from a fixed seed: 2,000 clients, 60 boats, 20,000 bordereaux,
+300,000 sale lines, 50,000 receipts, 50,000 payments, 20,000 invoices, unless a case says otherwise. What misses its aim is in bold.
+
+)";
     QFile file(results);
-    return file.open(QIODevice::WriteOnly) &&
-           file.write((introduction.arg(repetitions) + machine + u'\n' + table).toUtf8()) > 0;
+    return file.open(QIODevice::WriteOnly) && file.write(introduction + (machine + u'\n' + table).toUtf8()) > 0;
 }
 
 /// A filter is a regular expression to the library.
@@ -253,7 +248,7 @@ bool run(const std::string& filter, const QString& results)
         tell(rowsOf(each, measured));
     }
     tell(growthRows(measured));
-    std::printf("\nMedians of %d repetitions; %.0f s in all.\n", repetitions, all.seconds());
+    std::printf("\nMedians of at least five repetitions; %.0f s in all.\n", all.seconds());
     return !measured.failed && (results.isEmpty() || write(results, machine, table));
 }
 

@@ -19,8 +19,9 @@ struct Case
     std::string name;
     Work program;
     Work raw;
-    double aim = 0;    ///< ratio of the medians to stay below; 0: none is set
-    bool once = false; ///< heavy work that times itself with `SetIterationTime`, once a repetition
+    double aim = 0;      ///< ratio of the medians to stay below; 0: none is set
+    bool once = false;   ///< heavy work that times itself with `SetIterationTime`, once a repetition
+    int repetitions = 5; ///< of each side
 };
 
 /// Taken up in the order in which they stand in the table.

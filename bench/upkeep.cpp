@@ -5,6 +5,7 @@
 #include "platform/store/maintenance.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstdio>
 
@@ -24,7 +25,7 @@ QString source()
 
 QString target()
 {
-    return fileIn(workingFolder());
+    return fileIn(workingFolder(u"entretien"_s));
 }
 
 void sync(const QString& path)
@@ -41,7 +42,7 @@ void putInPlace(const QString& made)
         throw std::runtime_error("the file written is damaged");
     sync(made);
     std::rename(QFile::encodeName(made).constData(), QFile::encodeName(target()).constData());
-    sync(workingFolder());
+    sync(QFileInfo(target()).path());
 }
 
 void copyRaw()
