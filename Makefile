@@ -3,12 +3,13 @@
 #   make run                  build, lay out the folder TALOR/ and open the program there;
 #                             without a display, play the demonstration instead
 #   make demo                 play the demonstration into out/; with a display, leave the program open on it
-#   make test                 build and run all tests
-#   make asan                 the same under the address and undefined-behaviour sanitizers
+#   make test                 build and run all tests; with CI=true, then all of "make verifications"
+#   make verifications        what must also pass: the format, clang-tidy on what changed, the sanitizers
+#   make asan                 the tests under the address and undefined-behaviour sanitizers
 #   make bench                measure the program beside the same work written straight on SQLite and QPainter
 #   make install DEST=dossier lay out a folder that runs by itself
 
-.PHONY: run demo test asan bench install format tidy clean dependances build
+.PHONY: run demo test verifications asan bench install format style tidy clean dependances build
 .DEFAULT_GOAL := run
 
 DOSSIER ?= TALOR
@@ -29,13 +30,17 @@ test: dependances
 	cmake --preset release -DTALOR_TESTS=ON
 	cmake --build --preset release
 	ctest --preset release
+	$(if $(CI),$(MAKE) verifications)
+
+verifications: style tidy asan
 
 asan: dependances
 	cmake --preset asan
 	cmake --build --preset asan
 	ctest --preset asan
 
-bench: dependances
+bench:
+	@scripts/dependances mesures
 	cmake --preset release -DTALOR_BENCH=ON
 	cmake --build --preset release --target talor_bench
 	build/release/bench/talor_bench
@@ -54,10 +59,17 @@ dependances:
 format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
+style:
+	@scripts/dependances verification
+	git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+
+# The sources of the last commits; BASE=revision for all since then. Nothing is built: clang does not read GCC's
+# precompiled headers.
 tidy: dependances
-	cmake --preset dev
-	cmake --build --preset dev
-	git ls-files 'src/*.cpp' 'demo/*.cpp' 'install/*.cpp' | xargs -P 2 -n 4 clang-tidy -p build/dev --quiet
+	@scripts/dependances verification mesures
+	cmake --preset tidy -DTALOR_BENCH=ON
+	scripts/fichiers_changes | xargs -r -P 2 -n 4 \
+		clang-tidy -p build/tidy --quiet --extra-arg=-Wno-unknown-warning-option
 
 clean:
 	rm -rf build out

@@ -57,7 +57,8 @@ constexpr int largeurClientMin = 130;
 
 } // namespace
 
-CadreFiltreFactures::CadreFiltreFactures(Exercice& exercice, const RegistreFactures& registre, Porte porte, const QString& jour)
+CadreFiltreFactures::CadreFiltreFactures(Exercice& exercice, const RegistreFactures& registre, Porte porte,
+                                         const QString& jour)
     : EntryPanel(u"SSFrame1", u"SSPanel1")
     , m_exercice(exercice)
     , m_registre(registre)

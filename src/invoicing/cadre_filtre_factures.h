@@ -26,7 +26,7 @@ class CadreFiltreFactures : public controls::EntryPanel
 public:
     /// `jour` is the day that the list opens on. In `Fact_Bis` two buttons step through the clients.
     CadreFiltreFactures(Exercice& exercice, const RegistreFactures& registre, RegistreFactures::Porte porte,
-                const QString& jour);
+                        const QString& jour);
 
     /// The focus goes to the date of the kind last asked for.
     void ouvrir();
