@@ -72,8 +72,7 @@ CadreFiltreFactures::CadreFiltreFactures(Exercice& exercice, const RegistreFactu
     creerDates(jour);
 }
 
-// --- The client
-// -------------------------------------------------------------------------------------------------------
+// --- The client ------------------------------------------------------------------------------------------------------
 
 void CadreFiltreFactures::creerClient(Porte porte)
 {
@@ -134,8 +133,7 @@ void CadreFiltreFactures::chercherClient()
     m_client->setFocus();
 }
 
-// --- Which and in which order
-// -----------------------------------------------------------------------------------------
+// --- Which and in which order ----------------------------------------------------------------------------------------
 
 void CadreFiltreFactures::creerOptions()
 {
@@ -164,8 +162,7 @@ void CadreFiltreFactures::creerOptions()
     addWide(classement);
 }
 
-// --- Of which day or period
-// -------------------------------------------------------------------------------------------
+// --- Of which day or period ------------------------------------------------------------------------------------------
 
 void CadreFiltreFactures::creerDates(const QString& jour)
 {

@@ -64,8 +64,7 @@ DialogueFactures::DialogueFactures(QStringView nom, const QString& titre, Exerci
     montrerListe();
 }
 
-// --- What it is made of
-// -----------------------------------------------------------------------------------------------
+// --- What it is made of ----------------------------------------------------------------------------------------------
 
 QWidget* DialogueFactures::creerTitres()
 {
@@ -183,8 +182,7 @@ controls::CommandButton* DialogueFactures::commande(Commande index) const
     return m_commandes->button(index);
 }
 
-// --- The list
-// ---------------------------------------------------------------------------------------------------------
+// --- The list --------------------------------------------------------------------------------------------------------
 
 /// Room for long names and a few rows more, where the screen has it.
 QSize DialogueFactures::sizeHint() const
@@ -271,8 +269,7 @@ void DialogueFactures::appliquer(const FiltreFactures& filtre)
     fermerCadre(m_filtre);
 }
 
-// --- Marks
-// ------------------------------------------------------------------------------------------------------------
+// --- Marks -----------------------------------------------------------------------------------------------------------
 
 void DialogueFactures::basculer(int rang)
 {
@@ -297,8 +294,7 @@ void DialogueFactures::marquerTout(bool marquee)
     m_liste->refresh();
 }
 
-// --- Prints
-// -----------------------------------------------------------------------------------------------------------
+// --- Prints ----------------------------------------------------------------------------------------------------------
 
 void DialogueFactures::ouvrirImpression()
 {

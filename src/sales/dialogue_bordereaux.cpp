@@ -8,7 +8,7 @@
 #include "platform/controls/grid.h"
 #include "platform/controls/look.h"
 #include "platform/controls/named.h"
-#include "sales/cadre_filtre.h"
+#include "sales/cadre_filtre_bordereaux.h"
 
 #include <QBoxLayout>
 #include <QHeaderView>
@@ -73,7 +73,7 @@ DialogueBordereaux::DialogueBordereaux(QStringView nom, Exercice& exercice, Regi
     , m_haut(named(controls::iconButton(u"monter", u"Ligne précédente"_s), u"Image2", Haut))
     , m_bas(named(controls::iconButton(u"descendre", u"Ligne suivante"_s), u"Image2", Bas))
     , m_commandes(new controls::CommandBar)
-    , m_filtre(new CadreFiltre(exercice, m_registre, this))
+    , m_filtre(new CadreFiltreBordereaux(exercice, m_registre, this))
 {
     for (QLabel* titre : m_titres) {
         controls::setRole(titre, controls::Role::Subtitle);
@@ -101,8 +101,8 @@ DialogueBordereaux::DialogueBordereaux(QStringView nom, Exercice& exercice, Regi
 
     connect(m_commandes, &controls::CommandBar::triggered, this, &DialogueBordereaux::executer);
     connect(m_grille, &controls::Grid::rowSelected, this, &DialogueBordereaux::montrerFleches);
-    connect(m_filtre, &CadreFiltre::accepte, this, &DialogueBordereaux::filtrer);
-    connect(m_filtre, &CadreFiltre::abandonne, this, [this] { montrerCadre(nullptr); });
+    connect(m_filtre, &CadreFiltreBordereaux::accepte, this, &DialogueBordereaux::filtrer);
+    connect(m_filtre, &CadreFiltreBordereaux::abandonne, this, [this] { montrerCadre(nullptr); });
 }
 
 /// Room for twenty-two rows, where the screen has it.

@@ -13,7 +13,7 @@ class Grid;
 
 namespace talor {
 
-class CadreFiltre;
+class CadreFiltreBordereaux;
 
 /// The list of bordereaux on screen, with its filter and its print: what the register and the listings have in common.
 /// A frame, that of the filter or one of the dialog's own, opens in the place of the commands, over a list at rest;
@@ -73,7 +73,7 @@ private:
     controls::CommandBar* m_commandes;
     QList<int> m_indexCommandes; ///< but for "Quitter"
     QAbstractButton* m_quitter = nullptr;
-    CadreFiltre* m_filtre;
+    CadreFiltreBordereaux* m_filtre;
     QList<QWidget*> m_cadres;
     QList<QAbstractButton*> m_annuler;
 };

@@ -208,8 +208,7 @@ QList<CallRecord> readCalls(const QString& log)
 
 } // namespace torture
 
-// --- In the place of the C library's
-// ----------------------------------------------------------------------------------
+// --- In the place of the C library's ---------------------------------------------------------------------------------
 
 using torture::Call;
 using torture::real;

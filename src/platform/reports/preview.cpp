@@ -113,8 +113,7 @@ Apercu::Apercu(Document document, const QString& title, QWidget* parent)
     m_view->setFocus();
 }
 
-// --- the bar
-// ----------------------------------------------------------------------------------------------------------
+// --- the bar ---------------------------------------------------------------------------------------------------------
 
 QWidget* Apercu::makeBar()
 {
@@ -253,8 +252,7 @@ void Apercu::showZoom()
     m_wholePage->setChecked(m_view->zoom() == PageView::Zoom::WholePage);
 }
 
-// --- printing and saving
-// ----------------------------------------------------------------------------------------------
+// --- printing and saving ---------------------------------------------------------------------------------------------
 
 bool Apercu::run(const QString& what, int pages, const std::function<bool(const Progress&)>& work)
 {

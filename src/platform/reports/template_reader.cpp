@@ -82,8 +82,7 @@ Template TemplateReader::read()
     return std::move(m_template);
 }
 
-// --- what a report is made of
-// -----------------------------------------------------------------------------------------
+// --- what a report is made of ----------------------------------------------------------------------------------------
 
 void TemplateReader::readPage()
 {
@@ -254,8 +253,7 @@ Level TemplateReader::readGroupAttributes()
     return level;
 }
 
-// --- bands and what they draw
-// -----------------------------------------------------------------------------------------
+// --- bands and what they draw ----------------------------------------------------------------------------------------
 
 Band TemplateReader::readBand()
 {
@@ -402,8 +400,7 @@ Condition TemplateReader::readCondition()
     return condition;
 }
 
-// --- attributes
-// -------------------------------------------------------------------------------------------------------
+// --- attributes ------------------------------------------------------------------------------------------------------
 
 void TemplateReader::enter()
 {
@@ -483,8 +480,7 @@ T TemplateReader::takeChoice(QStringView attribute, T otherwise,
     refuse(u"« %1=\"%2\" » : valeur inconnue"_s.arg(attribute, value));
 }
 
-// --- names, and the shape of the file
-// ---------------------------------------------------------------------------------
+// --- names, and the shape of the file --------------------------------------------------------------------------------
 
 /// Stands on the next child of the current element, or on its end.
 bool TemplateReader::nextChild()

@@ -41,8 +41,7 @@ QString joined(const Document& document)
     return linesOf(document).join(u'\n');
 }
 
-// --- page breaks
-// ------------------------------------------------------------------------------------------------------
+// --- page breaks -----------------------------------------------------------------------------------------------------
 
 TEST(Layout, ColumnHeadingsComeBackOnEachPageAndPagesAreCounted)
 {
@@ -127,8 +126,7 @@ TEST(Layout, AHeadOfTheFirstPageOnlyLeavesNoHoleOnTheOthers)
     EXPECT_EQ(linesOf(document, 1).first(), u"Suite"_s);
 }
 
-// --- documents in one
-// -------------------------------------------------------------------------------------------------
+// --- documents in one ------------------------------------------------------------------------------------------------
 
 const QString invoices = u"<page-foot height=\"10\"><text>{T.g} : page {page} / {pages}</text></page-foot>"
                          "<section><source table=\"T\"/><group name=\"g\" by=\"{T.g}\" new-document=\"yes\">"
@@ -165,8 +163,7 @@ TEST(Layout, WithNoRowItSaysSoOnOnePage)
     EXPECT_EQ(linesOf(document), (QStringList{u"--- 1/1"_s, u"Rien à imprimer"_s, u"Page 1 / 1"_s}));
 }
 
-// --- sums
-// -------------------------------------------------------------------------------------------------------------
+// --- sums ------------------------------------------------------------------------------------------------------------
 
 TEST(Layout, SumsBeginAnewWithTheirGroupAndGoOnOverTheReport)
 {
@@ -207,8 +204,7 @@ TEST(Layout, APageSumCountsTheRowsOfItsPageOnly)
               (QStringList{u"Report 82.00"_s, u"ligne 9"_s, u"Total 92.25"_s, u"Page 10.25, à reporter 92.25"_s}));
 }
 
-// --- texts and their places
-// -------------------------------------------------------------------------------------------
+// --- texts and their places ------------------------------------------------------------------------------------------
 
 QList<TextRun> textsOf(const QString& fields, const SampleRow& row)
 {
@@ -323,8 +319,7 @@ TEST(Layout, TodayIsTheClocksDay)
     services::clock::followSystem();
 }
 
-// --- what is asked of the data
-// ----------------------------------------------------------------------------------------
+// --- what is asked of the data ---------------------------------------------------------------------------------------
 
 TEST(Layout, GroupsOrderBeforeTheSortFieldsAndTheseBeforeTheTemplate)
 {

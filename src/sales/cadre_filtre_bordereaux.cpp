@@ -1,4 +1,4 @@
-#include "sales/cadre_filtre.h"
+#include "sales/cadre_filtre_bordereaux.h"
 
 #include "core/typed_dates.h"
 #include "platform/controls/command_bar.h"
@@ -59,7 +59,7 @@ template<class Action> QToolButton* bouton(int index, QStringView image, const Q
 
 } // namespace
 
-CadreFiltre::CadreFiltre(Exercice& exercice, const RegistreBordereaux& registre, QWidget* dialogue)
+CadreFiltreBordereaux::CadreFiltreBordereaux(Exercice& exercice, const RegistreBordereaux& registre, QWidget* dialogue)
     : m_registre(registre)
     , m_bateau(named(creerComboChoix(), u"Combo21"))
     , m_mois(named(new QComboBox, u"Combo1"))
@@ -98,7 +98,7 @@ CadreFiltre::CadreFiltre(Exercice& exercice, const RegistreBordereaux& registre,
     connect(ok, &QShortcut::activated, this, [this] { (estDansPeriode() ? m_okPeriode : m_okMois)->click(); });
 }
 
-QBoxLayout* CadreFiltre::creerBateau(Exercice& exercice, QWidget* dialogue)
+QBoxLayout* CadreFiltreBordereaux::creerBateau(Exercice& exercice, QWidget* dialogue)
 {
     auto* ligne = new QHBoxLayout;
     ligne->addWidget(m_bateau);
@@ -110,7 +110,7 @@ QBoxLayout* CadreFiltre::creerBateau(Exercice& exercice, QWidget* dialogue)
     return ligne;
 }
 
-QBoxLayout* CadreFiltre::creerMois(QWidget* dialogue)
+QBoxLayout* CadreFiltreBordereaux::creerMois(QWidget* dialogue)
 {
     for (const QString& nom : NomsMois)
         m_mois->addItem(nom);
@@ -127,7 +127,7 @@ QBoxLayout* CadreFiltre::creerMois(QWidget* dialogue)
     return ligne;
 }
 
-QBoxLayout* CadreFiltre::creerPeriode(QWidget* dialogue)
+QBoxLayout* CadreFiltreBordereaux::creerPeriode(QWidget* dialogue)
 {
     auto* ligne = new QHBoxLayout;
     for (int i = 0; i < 2; ++i) {
@@ -146,7 +146,7 @@ QBoxLayout* CadreFiltre::creerPeriode(QWidget* dialogue)
     return ligne;
 }
 
-CommandButton* CadreFiltre::ajouterOk(QGridLayout* grille, int rang, Genre genre)
+CommandButton* CadreFiltreBordereaux::ajouterOk(QGridLayout* grille, int rang, Genre genre)
 {
     const bool parMois = genre == Genre::Mois;
     auto* ok = named(new CommandButton(u"ok", u"OK"_s), u"Image21", parMois ? AccepterMois : AccepterPeriode);
@@ -162,11 +162,11 @@ CommandButton* CadreFiltre::ajouterOk(QGridLayout* grille, int rang, Genre genre
     grille->addLayout(ligne, rang, 2);
     m_annuler.append(annuler);
     connect(ok, &QToolButton::clicked, this, [this, genre] { emit accepte(filtre(genre)); });
-    connect(annuler, &QToolButton::clicked, this, &CadreFiltre::abandonne);
+    connect(annuler, &QToolButton::clicked, this, &CadreFiltreBordereaux::abandonne);
     return ok;
 }
 
-void CadreFiltre::ouvrir()
+void CadreFiltreBordereaux::ouvrir()
 {
     const ListeChoix bateaux = m_registre.embarcations().avecEnsemble();
     const bool tous = m_bateau->currentIndex() < 0 || m_bateau->currentIndex() == m_bateau->count() - 1;
@@ -176,7 +176,7 @@ void CadreFiltre::ouvrir()
     m_bateau->setFocus(Qt::TabFocusReason);
 }
 
-void CadreFiltre::viser(const FiltreBordereaux& refuse)
+void CadreFiltreBordereaux::viser(const FiltreBordereaux& refuse)
 {
     if (refuse.genre == Genre::Mois)
         return m_mois->setFocus(Qt::TabFocusReason);
@@ -185,7 +185,7 @@ void CadreFiltre::viser(const FiltreBordereaux& refuse)
     champ->selectAll();
 }
 
-FiltreBordereaux CadreFiltre::filtre(Genre genre) const
+FiltreBordereaux CadreFiltreBordereaux::filtre(Genre genre) const
 {
     const ListeChoix& bateaux = m_registre.embarcations();
     const int rang = m_bateau->currentIndex();
@@ -193,7 +193,7 @@ FiltreBordereaux CadreFiltre::filtre(Genre genre) const
             rang >= 0 && rang < bateaux.nombre() ? bateaux[rang].num : numEnsemble};
 }
 
-bool CadreFiltre::estDansPeriode() const
+bool CadreFiltreBordereaux::estDansPeriode() const
 {
     const QWidget* champ = QApplication::focusWidget();
     const QWidget* periode[] = {m_dates[0], m_dates[1], m_okPeriode};

@@ -20,12 +20,12 @@ namespace talor {
 
 /// The frame `SSFrame2` in which the bordereaux listed are chosen: of a month or of a period, each with an OK of its
 /// own, and of one boat or of all. Ctrl+Enter is the OK of the line that has the focus.
-class CadreFiltre : public QFrame
+class CadreFiltreBordereaux : public QFrame
 {
     Q_OBJECT
 
 public:
-    CadreFiltre(Exercice& exercice, const RegistreBordereaux& registre, QWidget* dialogue);
+    CadreFiltreBordereaux(Exercice& exercice, const RegistreBordereaux& registre, QWidget* dialogue);
 
     /// Shows what was chosen last, with the focus on the boat.
     void ouvrir();
