@@ -30,6 +30,8 @@ struct Serie
     QString echec; ///< the work itself went wrong
     int coupures = 0;
     int fautives = 0;
+    int enJournal = 0;
+    qint64 annonces = 0;
     Depart suite;
 };
 
@@ -94,6 +96,8 @@ Serie couperUneSerie(Banc& banc, const Depart& depart, int nombre, Disk::Obeys o
             const QTemporaryDir trouve;
             Depart ici{disque.afterPowerCut(banc.hasard), temoin};
             writeFolder(trouve.path(), ici.dossier);
+            const auto journal = ici.dossier.find(u"TAL2026.mdb-journal"_s);
+            serie.enJournal += journal != ici.dossier.end() && journal->second.startsWith(journalStart);
             const QStringList fautes = examiner(trouve.path(), ici.temoin);
             ++serie.coupures;
             serie.fautives += !fautes.isEmpty();
@@ -108,6 +112,7 @@ Serie couperUneSerie(Banc& banc, const Depart& depart, int nombre, Disk::Obeys o
         if (appels[fait].call == Call::Note)
             temoin.entendre(annonceDe(appels[fait].bytes));
     }
+    serie.annonces = temoin.nbAnnonces() - depart.temoin.nbAnnonces();
     if (disque.asItStands() != readFolder(dossier))
         serie.echec += u"les appels enregistrés ne rendent pas le dossier"_s;
     return serie;
@@ -120,19 +125,26 @@ Depart neuf()
     return {readFolder(dossier.path()), Temoin()};
 }
 
-} // namespace
-
-int couper(Banc& banc, int coupures, Disk::Obeys obeys)
+struct Bilan
 {
+    int fautives = 0;
+    qint64 annonces = 0;
+    int enJournal = 0; ///< cuts that left a journal to be rolled back
+};
+
+Bilan couper(Banc& banc, int coupures, Disk::Obeys obeys)
+{
+    Bilan bilan;
     std::optional<Depart> depart;
     int faites = 0;
-    int fautives = 0;
     while (faites < coupures) {
         if (!depart || depart->temoin.livre().lignes.size() > lignesMax)
             depart = neuf();
         Serie serie = couperUneSerie(banc, *depart, qMin(coupuresParSerie, coupures - faites), obeys);
         faites += serie.coupures;
-        fautives += serie.fautives;
+        bilan.fautives += serie.fautives;
+        bilan.annonces += serie.annonces;
+        bilan.enJournal += serie.enJournal;
         if (!serie.echec.isEmpty())
             banc.accuser(u"série de coupures"_s, {serie.echec});
         if (serie.fautives > 0 || !serie.echec.isEmpty())
@@ -140,7 +152,21 @@ int couper(Banc& banc, int coupures, Disk::Obeys obeys)
         else
             depart = serie.suite;
     }
-    return fautives;
+    return bilan;
+}
+
+} // namespace
+
+void couperLeCourant(Banc& banc, int coupures)
+{
+    const Bilan bilan = couper(banc, coupures, Disk::Obeys::Everything);
+    std::printf("%d coupures de courant sur %lld actes annoncés, %d fichiers trouvés avec leur journal : %d faute(s)\n",
+                coupures, static_cast<long long>(bilan.annonces), bilan.enJournal, bilan.fautives);
+}
+
+int pertesDunDisque(Banc& banc, int coupures, Disk::Obeys obeys)
+{
+    return couper(banc, coupures, obeys).fautives;
 }
 
 } // namespace torture

@@ -12,6 +12,8 @@ namespace torture {
 /// The files of a folder, from it on, with their content.
 using FolderContent = std::map<QString, QByteArray>;
 FolderContent readFolder(const QString& folder);
+/// What a journal of SQLite's begins with, as long as its transaction stands undecided.
+inline constexpr QByteArrayView journalStart("\xd9\xd5\x05\xf9");
 void writeFolder(const QString& folder, const FolderContent& content);
 
 /// A folder as the disk holds it, brought along by recorded calls. What has been synced stands whatever happens; what

@@ -52,7 +52,7 @@ void eprouverDisques(Banc& banc)
         int vues = 0;
         int coupures = 0;
         for (; vues == 0 && coupures < nbCoupuresMax; coupures += nbCoupures)
-            vues = couper(banc, nbCoupures, obeys);
+            vues = pertesDunDisque(banc, nbCoupures, obeys);
         std::printf("%s : %d coupures sur %d perdent des actes\n", qUtf8Printable(nom), vues, coupures);
         if (vues == 0)
             banc.accuser(u"épreuve"_s, {nom + u" devait perdre des actes"_s});

@@ -103,7 +103,7 @@ QString tuerUnOuvrier(Banc& banc, const QString& dossier, Temoin& temoin)
 
 } // namespace
 
-int tuer(Banc& banc, int rondes)
+void tuer(Banc& banc, int rondes)
 {
     const int fautesAvant = banc.fautes;
     std::optional<QTemporaryDir> dossier;
@@ -131,7 +131,6 @@ int tuer(Banc& banc, int rondes)
         "%d morts, %lld actes annoncés, %d fichier(s), %d lignes et %d factures dans le dernier : %d faute(s)\n",
         rondes, static_cast<long long>(annonces), fichiers, static_cast<int>(temoin.livre().lignes.size()),
         static_cast<int>(temoin.livre().factures.size()), banc.fautes - fautesAvant);
-    return banc.fautes - fautesAvant;
 }
 
 } // namespace torture

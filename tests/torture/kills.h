@@ -5,7 +5,7 @@
 namespace torture {
 
 /// Kills the author of the postings at random moments, on one growing file, and holds the file against what was
-/// announced. Returns how many rounds found a fault.
-int tuer(Banc& banc, int rondes);
+/// announced.
+void tuer(Banc& banc, int rondes);
 
 } // namespace torture

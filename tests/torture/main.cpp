@@ -1,6 +1,7 @@
 #include "coupures.h"
 #include "epreuve.h"
 #include "kills.h"
+#include "pannes.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -16,8 +17,9 @@ int main(int argc, char** argv)
     QCoreApplication application(argc, argv);
     QCommandLineParser options;
     options.addHelpOption();
-    options.addOption({u"morts"_s, u"Processus tués."_s, u"nombre"_s, u"0"_s});
-    options.addOption({u"coupures"_s, u"Coupures de courant."_s, u"nombre"_s, u"0"_s});
+    options.addOption({u"morts"_s, u"Processus tués."_s, u"nombre"_s, u"25"_s});
+    options.addOption({u"coupures"_s, u"Coupures de courant."_s, u"nombre"_s, u"120"_s});
+    options.addOption({u"pannes"_s, u"Chaque appel de chaque acte en panne, et non un de chaque sorte."_s});
     options.addOption({u"graine"_s, u"Celle d'une autre fois."_s, u"nombre"_s});
     options.process(application);
 
@@ -26,8 +28,8 @@ int main(int argc, char** argv)
     torture::Banc banc(graine);
     torture::eprouver(banc);
     torture::tuer(banc, options.value(u"morts"_s).toInt());
-    const int coupures = options.value(u"coupures"_s).toInt();
-    const int fautives = torture::couper(banc, coupures);
-    std::printf("%d coupures de courant : %d faute(s)\n", coupures, fautives);
+    torture::couperLeCourant(banc, options.value(u"coupures"_s).toInt());
+    torture::provoquerPannes(banc, options.isSet(u"pannes"_s));
+    std::printf("%d faute(s)\n", banc.fautes);
     return banc.fautes == 0 ? 0 : 1;
 }

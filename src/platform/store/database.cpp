@@ -78,7 +78,7 @@ Statement Database::Impl::prepare(const QByteArray& sql, const QString& query)
 
 qint64 Database::Impl::write(const Table& table, const QByteArray& sql, const Values& values)
 {
-    checkTransaction();
+    checkStanding();
     aboutToWrite(tableBit(catalogue, &table));
     Statement statement = connection.prepare(sql);
     statement.bind(values);
@@ -110,9 +110,16 @@ void Database::Impl::aboutToWrite(quint64 tables)
         m_writes[i] += tables >> (i % 64) & 1;
 }
 
-/// SQLite gives a transaction up by itself when the disk is full or fails. What follows must not stand alone.
-void Database::Impl::checkTransaction() const
+/// What is about to be written must come to stand where it belongs. A file that was moved or deleted would take it and
+/// be found nowhere. SQLite gives a transaction up by itself when the disk is full or fails: what follows must not
+/// stand alone.
+void Database::Impl::checkStanding() const
 {
+    int moved = 0;
+    sqlite3_file_control(connection.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    if (moved)
+        failFile(SQLITE_READONLY_DBMOVED, QString::fromUtf8(sqlite3_errstr(SQLITE_READONLY_DBMOVED)),
+                 connection.path());
     if (transactions > 0 && sqlite3_get_autocommit(connection.get()))
         throw Error(Error::Interrupted, u"L'opération a été annulée dans le fichier « %1 »"_s.arg(connection.path()));
 }

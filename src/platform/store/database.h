@@ -18,6 +18,9 @@ class Recordset;
 /// typed is always bound (or goes through `likeLiteral`), never joined into the text.
 /// Text compares, sorts and matches with case and accents folded, as a French reader expects.
 ///
+/// A file that was moved, replaced or deleted while it is open takes no more writes, so that nothing is announced that
+/// would be found nowhere.
+///
 /// Every member throws `Error`; nothing here shows anything.
 class Database
 {

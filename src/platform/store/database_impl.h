@@ -24,7 +24,7 @@ struct Database::Impl
 
     qint64 write(const Table& table, const QByteArray& sql, const Values& values);
     void undo(const QByteArray& sql);
-    void checkTransaction() const;
+    void checkStanding() const;
 
     quint64& writesOf(const Table& table) { return m_writes[std::size_t(&table - catalogue.tables().constData())]; }
 

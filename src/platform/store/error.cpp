@@ -16,6 +16,8 @@ namespace {
 
 QString sentence(int code)
 {
+    if (code == SQLITE_READONLY_DBMOVED)
+        return u"Le fichier « %1 » a été déplacé ou effacé pendant le travail : plus rien n'y est enregistré"_s;
     switch (code & 0xff) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:

@@ -18,7 +18,7 @@ Transaction::Transaction(Database& database)
     : m_database(database)
 {
     Database::Impl& d = database.impl();
-    d.checkTransaction();
+    d.checkStanding();
     d.connection.run(d.transactions == 0 ? QByteArray("begin immediate") : "savepoint " + savepoint(d.transactions));
     ++d.transactions;
 }
@@ -44,7 +44,7 @@ Transaction::~Transaction()
 void Transaction::commit()
 {
     Database::Impl& d = m_database.impl();
-    d.checkTransaction();
+    d.checkStanding();
     d.connection.run(d.transactions == 1 ? QByteArray("commit") : "release " + savepoint(d.transactions - 1));
     --d.transactions;
     m_open = false;

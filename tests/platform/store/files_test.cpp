@@ -248,6 +248,34 @@ TEST_F(FilesTest, AFullDiskUndoesTheWholeActionAndSaysSo)
     EXPECT_EQ(column(u"select nom from Clients order by num"_s), (QStringList{u"avant"_s, u"après"_s}));
 }
 
+TEST_F(FilesTest, AFileThatIsNoLongerInItsPlaceTakesNoMoreWrites)
+{
+    addClient(u"A"_s);
+    const QString elsewhere = path(u"ailleurs.mdb"_s);
+    const auto refused = [&](const std::function<void()>& write) {
+        QString text;
+        EXPECT_EQ(faultOf(write, &text), SQLITE_READONLY_DBMOVED) << text.toStdString();
+        EXPECT_TRUE(text.contains(path()) && text.contains(u"déplacé ou effacé")) << text.toStdString();
+    };
+    ASSERT_TRUE(QFile::rename(path(), elsewhere));
+    refused([&] { addClient(u"B"_s); });
+    refused([&] { Transaction action(*base); });
+    ASSERT_TRUE(QFile::copy(elsewhere, path())); // another file has taken the place
+    refused([&] { base->execute(u"delete * from Clients"_s); });
+    QFile::remove(path());
+    ASSERT_TRUE(QFile::rename(elsewhere, path()));
+    addClient(u"C"_s);
+    refused([&] {
+        Transaction action(*base);
+        addClient(u"D"_s);
+        QFile::rename(path(), elsewhere);
+        action.commit();
+    });
+    QFile::rename(elsewhere, path());
+    reopen();
+    EXPECT_EQ(column(u"select nom from Clients order by num"_s), (QStringList{u"A"_s, u"C"_s}));
+}
+
 TEST_F(FilesTest, ACopyIsWholeAndReplacesAnOlderOne)
 {
     addClient(u"A"_s);
