@@ -20,7 +20,15 @@ Template Template::load(const QString& path)
         throw Error(u"Fichier '%1' absent"_s.arg(name));
     if (!file.open(QIODevice::ReadOnly))
         throw Error(u"Fichier '%1' illisible : %2"_s.arg(name, file.errorString()));
-    return read(file.readAll(), name);
+    // A batch asks a thousand times for one template.
+    static QByteArray lastXml;
+    static Template last;
+    const QByteArray xml = file.readAll();
+    if (xml != lastXml || name != last.name) {
+        last = read(xml, name);
+        lastXml = xml;
+    }
+    return last;
 }
 
 Template Template::read(const QByteArray& xml, const QString& name)
