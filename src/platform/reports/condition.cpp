@@ -19,25 +19,37 @@ namespace {
     throw Error(u"Formule illisible : « %1 »"_s.arg(whole));
 }
 
+/// Keys lie far below; a greater number stays a real one.
+constexpr double largestWhole = 4e15;
+
+/// The next number as a part of a date; nothing where it cannot be one.
+std::optional<int> datePart(Scanner& scanner)
+{
+    const auto number = scanner.number();
+    if (!number || std::abs(*number) > 9999)
+        return {};
+    return int(*number);
+}
+
 QDate parseDate(Scanner& scanner, const QString& whole)
 {
     QDate date;
     if (scanner.accept(u"#")) {
-        const auto month = scanner.number();
+        const auto month = datePart(scanner);
         const bool firstBar = scanner.accept(u"/");
-        const auto day = scanner.number();
+        const auto day = datePart(scanner);
         const bool secondBar = scanner.accept(u"/");
-        const auto year = scanner.number();
+        const auto year = datePart(scanner);
         if (month && firstBar && day && secondBar && year && scanner.accept(u"#"))
-            date = QDate(int(*year), int(*month), int(*day));
+            date = QDate(*year, *month, *day);
     } else if (scanner.accept(u"(")) {
-        const auto year = scanner.number();
+        const auto year = datePart(scanner);
         const bool firstComma = scanner.accept(u",");
-        const auto month = scanner.number();
+        const auto month = datePart(scanner);
         const bool secondComma = scanner.accept(u",");
-        const auto day = scanner.number();
+        const auto day = datePart(scanner);
         if (year && firstComma && month && secondComma && day && scanner.accept(u")"))
-            date = QDate(int(*year), int(*month), int(*day));
+            date = QDate(*year, *month, *day);
     }
     if (!date.isValid())
         refuse(whole);
@@ -49,7 +61,8 @@ QVariant boundValue(const QVariant& value)
 {
     if (value.typeId() == QMetaType::QDate)
         return value.toDate().toString(Qt::ISODate);
-    if (value.typeId() == QMetaType::Double && value.toDouble() == std::floor(value.toDouble()))
+    if (value.typeId() == QMetaType::Double && value.toDouble() == std::floor(value.toDouble()) &&
+        std::abs(value.toDouble()) < largestWhole)
         return value.toLongLong();
     return value;
 }

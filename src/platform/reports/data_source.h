@@ -10,6 +10,7 @@ namespace reports {
 /// What a report asks of the data: one query a section.
 struct Query
 {
+    QString report; ///< name of the template that asks, for messages
     const Source* source = nullptr;
     QStringList fields; ///< "Table.field", in the order in which a row gives its values
     Condition selection;

@@ -75,6 +75,7 @@ void ReportRows::readRowTables()
         Source source;
         source.table = table;
         Query query;
+        query.report = m_report.name;
         query.source = &source;
         const auto places = ask(source, &query);
         if (places.empty())
@@ -125,6 +126,7 @@ void ReportRows::open(const Section& section)
     m_section = &section;
     m_row = m_next = m_constants;
     Query query;
+    query.report = m_report.name;
     query.source = &section.source;
     query.selection = m_selection;
     query.order = orderOf(section);

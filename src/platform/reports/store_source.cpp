@@ -80,7 +80,7 @@ std::unique_ptr<RowSource> StoreSource::open(const Query& query)
     for (const Source::Join& join : query.source->joins)
         names << join.left << join.right;
     if (const QStringList unknown = unknownFields(names, m_database.catalogue()); !unknown.isEmpty())
-        throw Error(u"Champ inconnu : {%1}"_s.arg(unknown.first()));
+        throw Error(u"Champ inconnu : {%1} dans %2"_s.arg(unknown.first(), query.report));
 
     QVariantList values;
     const QString text = queryText(query, &values);

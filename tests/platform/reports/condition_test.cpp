@@ -25,6 +25,7 @@ TEST(Formula, BecomesAQueryWithBoundValues)
          u"Factures!Flag_R = ? and Factures!Total <> ?"_s,
          {0LL, 0.5}},
         {u"{Clients.nom} = 'O''BRIEN'"_s, u"Clients!nom = ?"_s, {u"O'BRIEN"_s}},
+        {u"{Clients.Debit} < 1000000000000000000000000000000"_s, u"Clients!Debit < ?"_s, {1e30}},
         {u"{Clients.Solde} < 0 and {Clients.Diff} > 3"_s, u"Clients!Solde < ? and Clients!Diff > ?"_s, {0LL, 3LL}},
     };
     for (const Case& c : cases) {
@@ -37,19 +38,21 @@ TEST(Formula, BecomesAQueryWithBoundValues)
 TEST(Formula, WhatCannotBeReadIsNamedAndNeverPassedOver)
 {
     const QStringList formulas = {
-        u"{Factures.num}"_s,                            // nothing to compare with
-        u"not {Factures.num}"_s,                        //
-        u"{Factures.num} = "_s,                         //
-        u"{Factures.num} = 12 or {Factures.num} = 3"_s, //
-        u"{Factures.num} = 12 and"_s,                   //
-        u"{Factures.num} = 12abc"_s,                    //
-        u"{Factures.num = 12"_s,                        //
-        u"Factures.num = 12"_s,                         //
-        u"{num} = 12"_s,                                // no table
-        u"{Factures.num; drop} = 12"_s,                 //
-        u"{Recettes.date} = date(2026,13,1)"_s,         // no such day
-        u"{Recettes.date} = date(2026,11)"_s,           //
-        u"{Clients.nom} = 'sans fin"_s,                 //
+        u"{Factures.num}"_s,                                               // nothing to compare with
+        u"not {Factures.num}"_s,                                           //
+        u"{Factures.num} = "_s,                                            //
+        u"{Factures.num} = 12 or {Factures.num} = 3"_s,                    //
+        u"{Factures.num} = 12 and"_s,                                      //
+        u"{Factures.num} = 12abc"_s,                                       //
+        u"{Factures.num = 12"_s,                                           //
+        u"Factures.num = 12"_s,                                            //
+        u"{num} = 12"_s,                                                   // no table
+        u"{Factures.num; drop} = 12"_s,                                    //
+        u"{Recettes.date} = date(2026,13,1)"_s,                            // no such day
+        u"{Recettes.date} = date(2026,11)"_s,                              //
+        u"{Recettes.date} = date(20260000000000,1,1)"_s,                   // no number of a date at all
+        u"{Recettes.date} = #11/1"_s + u"0"_s.repeated(400) + u"/2026#"_s, //
+        u"{Clients.nom} = 'sans fin"_s,                                    //
     };
     for (const QString& formula : formulas) {
         try {

@@ -103,6 +103,7 @@ TEST_F(StoreReport, AFieldThatTheSchemaLacksIsNamed)
             ADD_FAILURE();
         } catch (const Error& error) {
             EXPECT_TRUE(error.text().startsWith(u"Champ inconnu : {Factures."_s)) << error.what();
+            EXPECT_TRUE(error.text().endsWith(u" dans Essai.RPT"_s)) << error.what();
         }
     }
     EXPECT_EQ(unknownFields({u"Factures.num"_s, u"Factures.x"_s, u"Nulle.num"_s}, catalogue()),
