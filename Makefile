@@ -6,8 +6,10 @@
 #   make test                 build and run all tests
 #   make asan                 the same under the address and undefined-behaviour sanitizers
 #   make install DEST=dossier lay out a folder that runs by itself
+#   make package              make in paquets/ a .deb for a whole machine and a .tar.gz of that folder;
+#                             REVISION=2 for the next one to give out
 
-.PHONY: run demo test asan install format tidy clean dependances build
+.PHONY: run demo test asan install package format tidy clean dependances build
 .DEFAULT_GOAL := run
 
 DOSSIER ?= TALOR
@@ -38,6 +40,14 @@ install: build
 	@test -n "$(DEST)" || { echo "make install DEST=dossier" >&2; exit 2; }
 	cmake --install build/release --prefix "$(DEST)"
 
+package: dependances
+	cmake --preset release -DTALOR_REVISION=$(or $(REVISION),1)
+	cmake --build --preset release --target livraison
+	cmake -E rm -rf paquets
+	cd build/release && cpack
+	cmake -E rm -rf paquets/_CPack_Packages
+	@ls -1 paquets/*
+
 build: dependances
 	cmake --preset release
 	cmake --build --preset release --target livraison talor_demo
@@ -54,4 +64,4 @@ tidy: dependances
 	git ls-files 'src/*.cpp' 'demo/*.cpp' 'install/*.cpp' | xargs -P 2 -n 4 clang-tidy -p build/dev --quiet
 
 clean:
-	rm -rf build out
+	rm -rf build out paquets

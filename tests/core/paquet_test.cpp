@@ -108,12 +108,11 @@ TEST_F(PaquetEssai, un_paquet_plus_recent_renouvelle_ce_que_l_utilisateur_n_a_pa
     {
         QString nom;
         QByteArray attendu;
-    } cas[] = {{u"Facture.RPT"_s, "2"},      // as it was laid
-               {u"system.mdw"_s, "à moi"},   // changed by the user
-               {u"TAL2_CFG.CFG"_s, "cfg 1"}, // his from the first day, changed or not
-               {u"Identite.txt"_s, "id 1"},  //
-               {u"TAL00.mdb"_s, "2"},        // lost
-               {u"Bordero.RPT"_s, "2"},      // new in this package
+    } cas[] = {{u"Facture.RPT"_s, "2"},                                // as it was laid
+               {u"system.mdw"_s, "à moi"},                             // changed by the user
+               {u"TAL2_CFG.CFG"_s, "cfg 1"},                           // his from the first day, changed or not
+               {u"Identite.txt"_s, "id 1"},     {u"TAL00.mdb"_s, "2"}, // lost
+               {u"Bordero.RPT"_s, "2"},                                // new in this package
                {u"TAL2026.mdb"_s, "mes ventes"}};
     for (const auto& c : cas)
         EXPECT_EQ(lire(chez(c.nom)), c.attendu) << c.nom.toStdString();
