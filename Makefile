@@ -8,8 +8,10 @@
 #   make asan                 the tests under the address and undefined-behaviour sanitizers
 #   make bench                measure the program beside the same work written straight on SQLite and QPainter
 #   make install DEST=dossier lay out a folder that runs by itself
+#   make package              make in paquets/ a .deb for a whole machine and a .tar.gz of that folder;
+#                             REVISION=2 for the next one to give out
 
-.PHONY: run demo test verifications asan bench install format style tidy clean dependances build
+.PHONY: run demo test verifications asan bench install package format style tidy clean dependances build
 .DEFAULT_GOAL := run
 
 DOSSIER ?= TALOR
@@ -49,6 +51,14 @@ install: build
 	@test -n "$(DEST)" || { echo "make install DEST=dossier" >&2; exit 2; }
 	cmake --install build/release --prefix "$(DEST)"
 
+package: dependances
+	cmake --preset release -DTALOR_REVISION=$(or $(REVISION),1)
+	cmake --build --preset release --target livraison
+	cmake -E rm -rf paquets
+	cd build/release && cpack
+	cmake -E rm -rf paquets/_CPack_Packages
+	@ls -1 paquets/*
+
 build: dependances
 	cmake --preset release
 	cmake --build --preset release --target livraison talor_demo
@@ -72,4 +82,4 @@ tidy: dependances
 		clang-tidy -p build/tidy --quiet --extra-arg=-Wno-unknown-warning-option
 
 clean:
-	rm -rf build out
+	rm -rf build out paquets

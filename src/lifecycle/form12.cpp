@@ -40,7 +40,7 @@ Form12::Form12(const Installation& installation, const QString& CodeFichier, QWi
     ligne->addWidget(m_annee);
     ligne->addStretch();
     body()->addWidget(controls::hintLabel(
-        u"Bienvenue. Indiquez l'année du premier exercice : son fichier est créé à côté du programme."_s));
+        u"Bienvenue. Indiquez l'année du premier exercice : son fichier est créé avec vos données."_s));
     body()->addLayout(ligne);
     body()->addStretch();
 

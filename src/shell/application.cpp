@@ -15,6 +15,7 @@ Application::Application(int& argc, char** argv)
     : QApplication(argc, argv)
 {
     setApplicationName(u"TALOR"_s);
+    setDesktopFileName(u"talor"_s); // under which the desktop knows its icon
     controls::applyLook(*this);
 }
 

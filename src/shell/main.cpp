@@ -2,8 +2,10 @@
 #include "core/report_window.h"
 #include "lifecycle/form12.h"
 #include "lifecycle/mecano.h"
+#include "platform/controls/file_dialog.h"
 #include "platform/services/single_instance.h"
 #include "shell/application.h"
+#include "shell/dossier_donnees.h"
 #include "shell/fonctions.h"
 #include "shell/form1.h"
 #include "shell/startup.h"
@@ -21,9 +23,26 @@ EcranDemarrage ecran(const Installation& installation)
             }};
 }
 
+/// Where the program works: in its own folder, or in the user's when it is packaged; empty when he has not chosen one.
+QString dossierDeTravail()
+{
+    const QString programme = QCoreApplication::applicationDirPath();
+    const std::optional<Paquet> paquet = Paquet::de(programme);
+    if (!paquet)
+        return programme;
+    return choisirDossier(*paquet, {[](const Refus& question) { return confirmer(nullptr, question); },
+                                    [](const Refus& message) { montrer(nullptr, message); },
+                                    [](const QString& depart) {
+                                        return controls::FileDialog::folder(nullptr, u"Dossier de vos données"_s,
+                                                                            depart);
+                                    }});
+}
+
 int executer(Application& application)
 {
-    const QString dossier = QCoreApplication::applicationDirPath();
+    const QString dossier = dossierDeTravail();
+    if (dossier.isEmpty())
+        return EXIT_SUCCESS;
     const services::SingleInstance instance(dossier);
     if (!instance.isAlone()) {
         montrer(nullptr, {u"Application déjà en cours d'éxécution ! ! !"_s});

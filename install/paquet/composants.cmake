@@ -1,0 +1,8 @@
+# Read by CPack before each package.
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(CPACK_INSTALL_CMAKE_PROJECTS "${CPACK_CMAKE_BUILD};TALOR;paquet;/")
+    set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+else()
+    set(CPACK_INSTALL_CMAKE_PROJECTS "${CPACK_CMAKE_BUILD};TALOR;portable;/")
+    set(CPACK_PACKAGE_FILE_NAME "talor-${CPACK_PACKAGE_VERSION}-portable")
+endif()
