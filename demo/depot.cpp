@@ -31,7 +31,8 @@ std::optional<Refus> deposer(const Origine& origine, const QDir& dossier, int an
     if (!dossier.mkpath(u"."_s))
         return Refus{u"Le dossier '"_s + dossier.path() + u"' ne peut être créé"_s};
 
-    QStringList fichiers = {origine.livres.filePath(u"TAL00.mdb"_s), origine.installation.filePath(u"system.mdw"_s)};
+    QStringList fichiers = {origine.livres.filePath(u"TAL00.mdb"_s), origine.livres.filePath(u"Guide_TALOR.pdf"_s),
+                            origine.installation.filePath(u"system.mdw"_s)};
     for (const QString& modele : origine.modeles.entryList({u"*.rpt"_s}, QDir::Files))
         fichiers << origine.modeles.filePath(modele);
     for (const QString& fichier : fichiers)

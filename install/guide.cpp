@@ -33,6 +33,7 @@ constexpr qreal interligne = 132; // percent
 /// A picture this many pixels wide fills the column; a narrower one is shown at the same scale.
 constexpr qreal pixelsColonne = 1280;
 
+constexpr int pagesCouverture = 1;
 constexpr qreal hauteurCouverture = 250;
 constexpr int lignesSousTitre = 3;
 
@@ -324,14 +325,21 @@ bool Guide::sauterAvant(QTextBlock bloc)
     return true;
 }
 
+int Guide::pageDuTexte(QStringView debut) const
+{
+    for (QTextBlock bloc = m_texte.begin(); bloc.isValid(); bloc = bloc.next())
+        if (bloc.text().startsWith(debut))
+            return pageDe(bloc, 0) + 1 + pagesCouverture;
+    return 0;
+}
+
 QList<Guide::Chapitre> Guide::chapitres() const
 {
     QList<Chapitre> liste;
     for (QTextBlock bloc = m_texte.begin(); bloc.isValid(); bloc = bloc.next()) {
         if (bloc.blockFormat().headingLevel() != 2)
             continue;
-        const qreal y = m_texte.documentLayout()->blockBoundingRect(bloc).center().y();
-        liste.append({bloc.text(), pageDe(y) + 2}); // the cover is page 1
+        liste.append({bloc.text(), pageDe(bloc, 0) + 1 + pagesCouverture});
     }
     return liste;
 }
@@ -398,7 +406,7 @@ bool Guide::ecrire(const QString& pdf, const QString& embleme, const QString& ve
     if (!pinceau.begin(&sortie))
         return false;
     Feuille feuille(pinceau);
-    const int pages = m_texte.pageCount() + 1;
+    const int pages = m_texte.pageCount();
 
     feuille.remplir({0, 0, feuilleA4.width(), hauteurCouverture}, colour::navy);
     feuille.remplir({0, hauteurCouverture, feuilleA4.width(), 5}, colour::accent);
@@ -426,7 +434,7 @@ bool Guide::ecrire(const QString& pdf, const QString& embleme, const QString& ve
     }
 
     const qreal hauteur = m_texte.pageSize().height();
-    for (int page = 0; page + 1 < pages; ++page) {
+    for (int page = 0; page < pages; ++page) {
         sortie.newPage();
         pinceau.save();
         pinceau.translate(feuille.enPoints({marges.left(), marges.top(), 0, 0}).topLeft());
@@ -436,7 +444,7 @@ bool Guide::ecrire(const QString& pdf, const QString& embleme, const QString& ve
         pinceau.setClipRect(contexte.clip);
         m_texte.documentLayout()->draw(&pinceau, contexte);
         pinceau.restore();
-        peindrePied(feuille, m_titre, page + 2, pages);
+        peindrePied(feuille, m_titre, page + 1 + pagesCouverture, pages + pagesCouverture);
     }
     return pinceau.end();
 }

@@ -23,6 +23,8 @@ public:
 
     /// Pictures named in the text that are not there.
     const QStringList& imagesAbsentes() const { return m_absentes; }
+    /// Page, from 1, on which the paragraph that begins with this text begins; 0 for none. Once it is written.
+    int pageDuTexte(QStringView debut) const;
 
 private:
     struct Chapitre
