@@ -5,9 +5,12 @@
 #   make demo                 play the demonstration into out/; with a display, leave the program open on it
 #   make test                 build and run all tests
 #   make asan                 the same under the address and undefined-behaviour sanitizers
+#   make torture              kill the postings MORTS times, cut the current COUPURES times, fail every call of every
+#                             action, then fuzz each file that the program reads for DUREE seconds
+#   make fuzz                 the last of these alone; CIBLES="modele requete" for some of them
 #   make install DEST=dossier lay out a folder that runs by itself
 
-.PHONY: run demo test asan install format tidy clean dependances build
+.PHONY: run demo test asan torture fuzz install format tidy clean dependances build
 .DEFAULT_GOAL := run
 
 DOSSIER ?= TALOR
@@ -33,6 +36,23 @@ asan: dependances
 	cmake --preset asan
 	cmake --build --preset asan
 	ctest --preset asan
+
+MORTS ?= 1000
+COUPURES ?= 2000
+DUREE ?= 60
+CIBLES ?=
+
+torture: dependances
+	cmake --preset release -DTALOR_TESTS=ON
+	cmake --build --preset release --target talor_torture
+	build/release/tests/torture/talor_torture --morts $(MORTS) --coupures $(COUPURES) --pannes
+	$(MAKE) fuzz
+
+fuzz:
+	@scripts/dependances clang
+	cmake --preset fuzz
+	cmake --build --preset fuzz --target fuzz
+	tests/fuzz/lancer $(DUREE) $(CIBLES)
 
 install: build
 	@test -n "$(DEST)" || { echo "make install DEST=dossier" >&2; exit 2; }
