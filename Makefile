@@ -49,7 +49,7 @@ torture: dependances
 	$(MAKE) fuzz
 
 fuzz:
-	@scripts/dependances clang
+	@scripts/dependances clang libclang-rt-dev
 	cmake --preset fuzz
 	cmake --build --preset fuzz --target fuzz
 	tests/fuzz/lancer $(DUREE) $(CIBLES)
