@@ -1,5 +1,5 @@
-// The exercise file. The input is a list of changes to a sound one (bytes overwritten, the file cut short), or, behind a
-// first byte of 255, the file itself. The program opens it, or tells it by name and repairs it or refuses to.
+// The exercise file. The input is a list of changes to a sound one (bytes overwritten, the file cut short), or, behind
+// a first byte of 255, the file itself. The program opens it, or tells it by name and repairs it or refuses to.
 
 #include "tests/fuzz/fuzz.h"
 

@@ -2,8 +2,8 @@
 
 #include "tests/fuzz/fuzz.h"
 
-#include "platform/reports/error.h"
 #include "platform/reports/condition.h"
+#include "platform/reports/error.h"
 
 using namespace fuzz;
 

@@ -37,7 +37,8 @@ inline talor::Exercice& exerciceOuvert()
         exercice.OuvrirBase();
         store::Database& base = exercice.Base();
         for (int i = 1; i <= 3; ++i) {
-            base.execute(u"insert into Clients (ordre, nom, Debit) values (?, ?, ?)"_s, {i, u"O'Brien É%1"_s.arg(i), i});
+            base.execute(u"insert into Clients (ordre, nom, Debit) values (?, ?, ?)"_s,
+                         {i, u"O'Brien É%1"_s.arg(i), i});
             base.execute(u"insert into Factures (ordre, [Date], num_client, Total) values (?, ?, ?, ?)"_s,
                          {i, u"15/06/2026"_s, i, 100.5 * i});
             base.execute(u"insert into L_Vente (num_client, Num_Facture, Total) values (?, ?, ?)"_s, {i, -1, 12.5});
