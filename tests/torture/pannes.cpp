@@ -270,15 +270,25 @@ const Travail saisirUneLigne = [](Ouvrier& ouvrier, Exercice&) {
         ouvrier.nouveauBordereau();
 };
 
+/// Something that bears the name of the exercise's journal, left there by whomever.
+std::function<void(const QString&)> laisserUnJournal(const QByteArray& contenu)
+{
+    return [contenu](const QString& dossier) { writeFolder(dossier, {{u"TAL2026.mdb-journal"_s, contenu}}); };
+}
+
 struct PanneNommee
 {
     QString nom;
     std::function<void(const QString& dossier)> avant; ///< in the process, before it opens the exercise
     Travail travail;
-    const char16_t* dit; ///< part of the message
+    const char16_t* dit; ///< part of the message; empty: the work goes on without one
 };
 
 const PanneNommee pannesNommees[] = {
+    {u"journal vide à côté du fichier"_s, laisserUnJournal({}), saisirUneLigne, u""},
+    {u"journal coupé à son début"_s, laisserUnJournal(journalStart.toByteArray()), saisirUneLigne, u""},
+    {u"journal qui n'en est pas un"_s, laisserUnJournal(QByteArray("Cher client, ").repeated(500)), saisirUneLigne,
+     u""},
     {u"fichier en lecture seule"_s,
      [](const QString& dossier) {
          donnerLesDroits(dossier, 0777, 0444);
@@ -331,10 +341,12 @@ void provoquerNommees(Banc& banc, const Lieu& lieu)
             QFile::rename(fichier + u".ailleurs"_s, fichier);
         }
         QStringList fautes = juger(lieu, dossier, issue);
-        if (!issue.message.contains(QStringView(panne.dit)))
-            fautes += u"devait dire « %1 »"_s.arg(QStringView(panne.dit));
+        const QStringView dit(panne.dit);
+        if (dit.isEmpty() ? !issue.message.isEmpty() : !issue.message.contains(dit))
+            fautes += u"devait dire « %1 »"_s.arg(dit);
         banc.accuser(u"%1 : « %2 »"_s.arg(panne.nom, issue.message), fautes);
     }
+    std::printf("%d pannes par leur nom\n", static_cast<int>(std::size(pannesNommees)));
 }
 
 } // namespace
