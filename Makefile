@@ -97,8 +97,8 @@ style:
 # The sources of the last commits; BASE=revision for all since then. Nothing is built: clang does not read GCC's
 # precompiled headers.
 tidy: dependances
-	@scripts/dependances clang-tidy libbenchmark-dev
-	cmake --preset tidy -DTALOR_BENCH=ON
+	@scripts/dependances clang-tidy
+	cmake --preset tidy
 	scripts/fichiers_changes | xargs -r -P 2 -n 4 \
 		clang-tidy -p build/tidy --quiet --extra-arg=-Wno-unknown-warning-option
 

@@ -91,7 +91,7 @@ DemandeSaisie longBordereau(Exercice& exercice)
 
 void typeAtTheWindow(benchmark::State& state, std::vector<double> Answers::*wanted)
 {
-    const QString folder = workingFolder();
+    const QString folder = workingFolder(u"saisie"_s);
     copyExercise(folderOf(medium), folder);
     const auto exercise = open(folder);
     const auto former = controls::Message::setScript([](const controls::MessageText&) { return controls::Answer::Ok; });

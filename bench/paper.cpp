@@ -2,9 +2,8 @@
 #include "bench/exercise.h"
 #include "bench/paper_raw.h"
 #include "bench/table.h"
-#include "core/report.h"
 #include "core/report_window.h"
-#include "invoicing/invoice_register.h"
+#include "invoicing/invoice_print.h"
 #include "platform/reports/page_view.h"
 #include "platform/reports/paint.h"
 #include "platform/reports/preview.h"
@@ -12,7 +11,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QPaintEvent>
-#include <QPrinterInfo>
+
+#include <numeric>
 
 namespace talor::bench {
 
@@ -47,32 +47,19 @@ RegistreFactures firstInvoices(Exercice& exercise)
     return registre;
 }
 
-Etat invoiceOf(RegistreFactures& registre, int rank)
-{
-    return {.modele = registre.modele(rank),
-            .formule = registre.formule(rank),
-            .tri = {},
-            .remplir = [&registre, rank](Exercice&) { registre.ecrireTextesFacture(rank, GenreImpression::Facture); },
-            .titre = {}};
-}
-
 void printBatch(benchmark::State& state)
 {
     const auto exercise = open(folder());
     RegistreFactures registre = firstInvoices(*exercise);
+    QList<int> ranks(batch);
+    std::iota(ranks.begin(), ranks.end(), 0);
     int pages = 0;
     for (auto _ : state) {
         const Stopwatch watch;
-        reports::Document all;
-        {
-            store::Transaction transaction(exercise->Base()); // one commit for the texts of them all
-            for (int rank = 0; rank < batch; ++rank)
-                all.append(*ComposerEtat(*exercise, invoiceOf(registre, rank)));
-            transaction.commit();
-        }
-        reports::writePdf(all, pdf(u"lot.pdf"_s));
+        const LotFactures batchOfThem = ComposerFactures(*exercise, registre, ranks, GenreImpression::Facture);
+        reports::writePdf(batchOfThem.document, pdf(u"lot.pdf"_s));
         state.SetIterationTime(watch.seconds());
-        pages = all.pageCount();
+        pages = batchOfThem.document.pageCount();
     }
     holdSame(state, batchName, pages);
 }
@@ -133,8 +120,8 @@ void showOne(benchmark::State& state)
     for (auto _ : state) {
         if (TestImprimante(nullptr) != 0)
             throw std::runtime_error("nothing can print");
-        const auto document = ComposerEtat(*exercise, invoiceOf(registre, rank++ % batch));
-        reports::Apercu preview(*document, document->title());
+        const LotFactures one = ComposerFactures(*exercise, registre, {rank++ % batch}, GenreImpression::Facture);
+        reports::Apercu preview(one.document, one.document.title());
         const UntilPainted painted(preview.view()->viewport());
         preview.show();
         painted.wait();
@@ -149,7 +136,6 @@ void showOneRaw(benchmark::State& state)
     const std::vector<qint64> nums = firstNumbers(file);
     int rank = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(QPrinterInfo::availablePrinterNames());
         RawPreview preview(print, nums[size_t(rank++ % batch)]);
         const UntilPainted painted(&preview);
         preview.show();

@@ -5,6 +5,7 @@
 
 #include <array>
 
+class QAbstractButton;
 class QButtonGroup;
 class QComboBox;
 class QGroupBox;
