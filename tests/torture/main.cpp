@@ -10,8 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// The program's postings, killed, cut off from the current and let down by the disk, and the file held against what
-/// was announced. Ends with 1 when a fault was found; the seed that it prints brings the same choices back.
+/// Kills the postings, cuts their current and makes their disk fail, and each time holds the file against what was
+/// announced. Returns 1 on a fault. The number after "graine" repeats a run.
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
