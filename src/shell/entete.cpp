@@ -36,8 +36,7 @@ QString dateEnToutesLettres(QDate jour)
 void feuille(QHBoxLayout* rangee, Qt::Alignment cote, std::initializer_list<QLabel*> lignes)
 {
     auto* cadre = new QFrame;
-    cadre->setObjectName(u"Feuille"_s);
-    cadre->setStyleSheet(u"#Feuille { background: rgba(255, 255, 255, 190); border-radius: 10px; }"_s);
+    controls::setRole(cadre, controls::Role::Sheet);
     auto* colonne = new QVBoxLayout(cadre);
     colonne->setContentsMargins(14, 8, 14, 8);
     colonne->setSpacing(2);

@@ -38,14 +38,12 @@ Form1::Form1(Exercice& exercice)
     , m_droite(named(new ImageLaterale, u"Image2", 1))
     , m_pages(new QStackedWidget)
     , m_raccourcis(new PanneauRaccourcis)
-    , m_facturation(new PanneauFacturation)
 {
     named(this, u"Form1");
     resize(screen()->availableSize() * 9 / 10); // where it is not maximised
     setWindowTitle(u"   TALOR  Version  2.1      (Révisé le 06/06/2022"_s);
     setMenuBar(m_menus);
     m_pages->addWidget(m_raccourcis);
-    m_pages->addWidget(m_facturation);
 
     auto* milieu = new QHBoxLayout;
     milieu->setContentsMargins(24, 16, 24, 20);
@@ -63,13 +61,10 @@ Form1::Form1(Exercice& exercice)
 
     connect(m_menus, &BarreMenus::choisie, this, &Form1::executer);
     connect(m_raccourcis, &PanneauRaccourcis::choisi, this, &Form1::executer);
-    connect(m_facturation, &PanneauFacturation::choisi, this, &Form1::executer);
-    connect(m_facturation, &PanneauFacturation::ferme, this, &Form1::fermerFacturation);
     connect(m_entete->guide(), &QPushButton::clicked, this, [this] { executer(u"G_PDF"_s); });
     brancherLesSiennes();
     m_menus->cocher(entreesResolution[static_cast<int>(m_resolution)]);
     actualiser();
-    setTabOrder(m_facturation, m_entete->guide());
 }
 
 Form1::~Form1() = default;
@@ -118,7 +113,8 @@ void Form1::actualiserMenus()
                                (entree.genre == Entree::Genre::SousMenu || disponible(entree.nom)));
     const auto branche = [this](const QString& nom) { return disponible(nom); };
     m_raccourcis->actualiser(branche, courant);
-    m_facturation->actualiser(branche);
+    if (m_facturation)
+        m_facturation->actualiser(branche);
     m_entete->guide()->setEnabled(disponible(u"G_PDF"_s));
 }
 
@@ -135,11 +131,24 @@ void Form1::montrerPort()
     m_entete->setPortMontre(m_gauche->estVide() && m_droite->estVide() && height() >= hauteurAvecPort);
 }
 
+PanneauFacturation* Form1::facturation()
+{
+    if (!m_facturation) {
+        m_facturation = new PanneauFacturation;
+        m_pages->addWidget(m_facturation);
+        connect(m_facturation, &PanneauFacturation::choisi, this, &Form1::executer);
+        connect(m_facturation, &PanneauFacturation::ferme, this, &Form1::fermerFacturation);
+        setTabOrder(m_facturation, m_entete->guide());
+        actualiserMenus();
+    }
+    return m_facturation;
+}
+
 void Form1::ouvrirFacturation()
 {
     m_menus->setEnabled(false);
-    m_pages->setCurrentWidget(m_facturation);
-    m_facturation->prendreFocus();
+    m_pages->setCurrentWidget(facturation());
+    facturation()->prendreFocus();
 }
 
 void Form1::fermerFacturation()

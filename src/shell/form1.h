@@ -52,6 +52,7 @@ protected:
 
 private:
     void brancherLesSiennes();
+    PanneauFacturation* facturation();
     void ouvrirFacturation();
     void fermerFacturation();
     void actualiserMenus();
@@ -68,7 +69,7 @@ private:
     ImageLaterale* m_droite;
     QStackedWidget* m_pages;
     PanneauRaccourcis* m_raccourcis;
-    PanneauFacturation* m_facturation;
+    PanneauFacturation* m_facturation = nullptr; ///< made when it is first opened
 };
 
 } // namespace talor

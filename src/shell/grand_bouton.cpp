@@ -32,7 +32,7 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     : QAbstractButton(parent)
     , m_icone(controls::icon(icone))
     , m_disposition(disposition)
-    , m_image(new QLabel(this))
+    , m_image(new QWidget(this))
     , m_libelle(new QLabel(libelle, this))
     , m_touche(controls::hintLabel(touche.toString(QKeySequence::NativeText)))
     , m_rangee(new QBoxLayout(QBoxLayout::LeftToRight, this))
@@ -51,8 +51,9 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     police.setWeight(QFont::DemiBold);
     m_libelle->setFont(police);
     m_touche->setParent(this);
-    for (QLabel* label : {m_image, m_libelle, m_touche})
-        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_touche->setWordWrap(false);
+    for (QWidget* posee : {m_image, static_cast<QWidget*>(m_libelle), static_cast<QWidget*>(m_touche)})
+        posee->setAttribute(Qt::WA_TransparentForMouseEvents);
 
     m_rangee->setSpacing(0);
     m_rangee->addStretch(1);
@@ -60,7 +61,6 @@ GrandBouton::GrandBouton(const QString& icone, const QString& libelle, const QKe
     m_rangee->addSpacing(halo + ecart);
     m_rangee->addWidget(m_libelle);
     m_rangee->addStretch(1);
-    m_image->setMinimumSize(iconeMin, iconeMin); // its picture is drawn when its place is known
 }
 
 void GrandBouton::setFonds(QColor repos, QColor allume)
@@ -105,18 +105,12 @@ void GrandBouton::disposer()
                                         : QMargins(marge + halo, 0, placeTouche(), 0));
     // Captions of a column begin at one place.
     m_rangee->setStretch(0, m_disposition == Disposition::EnLigne ? 0 : 1);
-    montrerIcone(empile ? qBound(iconeMin, height() / 4, iconeMax) : iconeMin);
+    const int cote = empile ? qBound(iconeMin, height() / 4, iconeMax) : iconeMin;
+    m_image->setFixedSize(cote, cote);
 
     m_touche->adjustSize();
     const int y = empile ? marge / 2 : (height() - m_touche->height()) / 2;
     m_touche->move(width() - m_touche->width() - marge, y);
-}
-
-void GrandBouton::montrerIcone(int cote)
-{
-    m_cote = cote;
-    const QIcon::Mode mode = isEnabled() ? QIcon::Normal : QIcon::Disabled;
-    m_image->setPixmap(m_icone.pixmap(QSize(cote, cote), devicePixelRatioF(), mode));
 }
 
 void GrandBouton::paintEvent(QPaintEvent*)
@@ -137,6 +131,7 @@ void GrandBouton::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     painter.setBrush(!isEnabled() ? colour::sand : m_allume ? colour::paper : colour::blueLight);
     painter.drawEllipse(image.center(), rayonDisque, rayonDisque);
+    m_icone.paint(&painter, m_image->geometry(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 
 void GrandBouton::resizeEvent(QResizeEvent* event)
@@ -164,13 +159,6 @@ void GrandBouton::keyPressEvent(QKeyEvent* event)
         click();
     else
         QAbstractButton::keyPressEvent(event);
-}
-
-void GrandBouton::changeEvent(QEvent* event)
-{
-    QAbstractButton::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && m_cote > 0)
-        montrerIcone(m_cote);
 }
 
 } // namespace talor

@@ -44,17 +44,14 @@ protected:
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
 private:
     void disposer();
     int placeTouche() const;
-    void montrerIcone(int cote);
 
     QIcon m_icone;
-    int m_cote = 0; ///< of the picture as drawn; 0 until its place is known
     Disposition m_disposition;
-    QLabel* m_image;
+    QWidget* m_image; ///< keeps the place of the picture
     QLabel* m_libelle;
     QLabel* m_touche;
     QBoxLayout* m_rangee;

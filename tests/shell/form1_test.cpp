@@ -140,7 +140,6 @@ TEST(Form1, le_sous_panneau_ferme_les_menus_et_cache_les_raccourcis)
     FenetrePrincipale f;
     f.brancher({u"MM_CREANCES"_s, u"Corr_Fact"_s});
     f.afficher();
-    EXPECT_FALSE(f.controle(u"SSPanel1"_s)->isVisible());
 
     touche(Qt::Key_F1);
     EXPECT_TRUE(f.controle(u"SSPanel1"_s)->isVisible());

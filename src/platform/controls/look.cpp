@@ -112,18 +112,22 @@ QString nameOf(Role role)
         return u"hint"_s;
     case Role::Panel:
         return u"panel"_s;
+    case Role::Sheet:
+        return u"sheet"_s;
     case Role::Display:
         return u"display"_s;
     }
     return {};
 }
 
-/// A widget that the style sheet has dressed already must be dressed anew.
+/// A widget that the style sheet has dressed already must be dressed anew; any other is when it is first shown.
 void dress(QWidget* widget, const char* property, const QVariant& value)
 {
     if (widget->property(property) == value)
         return;
     widget->setProperty(property, value);
+    if (!widget->testAttribute(Qt::WA_WState_Polished))
+        return;
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
 }

@@ -39,6 +39,7 @@ enum class Role
     Total,    ///< the figure of a total
     Hint,     ///< small quiet text
     Panel,    ///< a frame around fields, on paper
+    Sheet,    ///< under texts that stand on a drawing
     Display,  ///< the figures of a number pad
 };
 
