@@ -44,6 +44,19 @@ std::optional<PointeurAnnee> lirePointeur(const Installation& installation, cons
     return ecran.demanderPremierExercice(configuration);
 }
 
+/// Where nothing can be recorded, that is told at the door and not at the first sale.
+std::optional<Refus> verifierEcriture(const QString& base)
+{
+    const QFileInfo fichier(base);
+    const QFileInfo dossier(fichier.path());
+    for (const auto& [lieu, nom] : {std::pair{fichier, u"Le fichier « %1 »"_s.arg(base)},
+                                    std::pair{dossier, u"Le dossier « %1 »"_s.arg(fichier.path())}})
+        if (!lieu.isWritable())
+            return notification(nom + u" est protégé contre l'écriture : rien ne pourrait y être enregistré\n"
+                                      "Ôtez cette protection, puis relancez TALOR"_s);
+    return std::nullopt;
+}
+
 Demarrage ouvrir(std::unique_ptr<Exercice> exercice)
 {
     try {
@@ -75,6 +88,8 @@ Demarrage demarrer(const Installation& installation, const EcranDemarrage& ecran
     if (!pointeur)
         return arreter(std::nullopt);
     if (auto refus = creerFichierAnnee(installation, pointeur->anneeCourante()))
+        return arreter(std::move(refus));
+    if (auto refus = verifierEcriture(installation.base(pointeur->anneeCourante())))
         return arreter(std::move(refus));
     return ouvrir(std::make_unique<Exercice>(installation, *configuration, *pointeur));
 }

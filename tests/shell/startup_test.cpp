@@ -4,6 +4,8 @@
 #include "tests/support/dossier_programme.h"
 #include "tests/support/print.h"
 
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
 using namespace talor;
 
@@ -39,6 +41,26 @@ struct EcranEssai
     int controlesImprimante = 0;
     int questions = 0;
     QStringList montres;
+};
+
+/// The administrator may write everywhere: for a while the process is nobody in particular.
+class SansPrivilege
+{
+public:
+    SansPrivilege()
+        : m_administrateur(geteuid() == 0)
+    {
+        if (m_administrateur && setresuid(65534, 65534, 0) != 0)
+            qFatal("the process keeps its privileges");
+    }
+    ~SansPrivilege()
+    {
+        if (m_administrateur && setresuid(0, 0, 0) != 0)
+            qFatal("the process has lost its privileges");
+    }
+
+private:
+    bool m_administrateur;
 };
 
 void poserPointeur(const DossierProgramme& dossier, qint16 annee, qint16 clotures)
@@ -162,6 +184,35 @@ TEST(Demarrage, une_base_endommagee_mene_a_la_reparation_et_reste_en_place)
     ASSERT_TRUE(d.exercice);
     EXPECT_FALSE(d.exercice->estOuvert());
     EXPECT_EQ(dossier.lire(u"TAL2026.mdb"_s), reste);
+}
+
+TEST(Demarrage, ce_qui_est_protege_contre_l_ecriture_est_nomme_a_la_porte)
+{
+    DossierProgramme dossier;
+    poserPointeur(dossier, 2026, 0);
+    ASSERT_EQ(EcranEssai(dossier).demarrer().issue, Demarrage::Issue::Ouvert);
+    const QString base = dossier.chemin(u"TAL2026.mdb"_s);
+    constexpr auto lire = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    constexpr auto parcourir = lire | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+    constexpr auto ecrire = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    const auto message = [&] {
+        const SansPrivilege privilege;
+        const Demarrage d = EcranEssai(dossier).demarrer();
+        EXPECT_EQ(d.issue, Demarrage::Issue::Arrete);
+        return d.message ? d.message->texte : QString();
+    };
+
+    QFile::setPermissions(dossier.chemin({}), parcourir | ecrire);
+    QFile::setPermissions(base, lire);
+    EXPECT_EQ(message().section(u" :"_s, 0, 0), u"Le fichier « %1 » est protégé contre l'écriture"_s.arg(base));
+
+    QFile::setPermissions(base, lire | ecrire);
+    QFile::setPermissions(dossier.chemin({}), parcourir);
+    EXPECT_EQ(message().section(u" :"_s, 0, 0),
+              u"Le dossier « %1 » est protégé contre l'écriture"_s.arg(QFileInfo(base).path()));
+
+    QFile::setPermissions(dossier.chemin({}), parcourir | ecrire);
+    EXPECT_EQ(EcranEssai(dossier).demarrer().issue, Demarrage::Issue::Ouvert);
 }
 
 TEST(Demarrage, un_modele_illisible_ne_fait_pas_naitre_d_exercice)
