@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QStyle>
 
 namespace controls {
 
@@ -25,6 +26,21 @@ QSize roomOn(const QScreen* screen)
 {
     constexpr QSize frame{8, 40};
     return screen->availableGeometry().size() - frame;
+}
+
+bool fits(QSize size, QSize room)
+{
+    return size.boundedTo(room) == size;
+}
+
+/// With as much of what is around it as there is room for: a field comes with its panel and the panel's buttons.
+void bringIntoView(QScrollArea* area, QWidget* entered)
+{
+    constexpr int aroundTheCursor = 20; // a field is brought into view by its cursor alone
+    QWidget* around = entered;
+    while (around->parentWidget() != area->widget() && fits(around->parentWidget()->size(), area->viewport()->size()))
+        around = around->parentWidget();
+    area->ensureWidgetVisible(around, 0, around == entered ? aroundTheCursor : 0);
 }
 
 } // namespace
@@ -122,8 +138,11 @@ void Dialog::setVisible(bool visible)
         ensurePolished();
         for (const QWidget* inner : findChildren<QWidget*>())
             inner->ensurePolished();
-        const int wanted = sizeHint().height();
-        if (minimumSizeHint().height() > roomOn(screen()).height())
+        int wanted = sizeHint().height();
+        const QSize room = roomOn(screen());
+        if (minimumSizeHint().width() > room.width())
+            wanted += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        if (!fits(minimumSizeHint(), room))
             scrollBody();
         // Qt would hold a window that nobody has resized to two thirds of the screen.
         if (!testAttribute(Qt::WA_Resized))
@@ -139,7 +158,6 @@ void Dialog::scrollBody()
     // Each has its place in the dialog before it takes anything in, so that the order of Tab stays.
     auto* area = new QScrollArea(this);
     auto* inside = new QWidget(this);
-    constexpr int aroundTheCursor = 20; // a field is brought into view by its cursor alone
     QWidget* const focus = focusWidget();
     auto* content = static_cast<QBoxLayout*>(layout()->itemAt(1)->layout());
     content->removeItem(m_body);
@@ -152,15 +170,17 @@ void Dialog::scrollBody()
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->viewport()->setAutoFillBackground(false);
-    area->setMinimumWidth(inside->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    // Only what is too wide for the screen scrolls sideways too.
+    const int whole = inside->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width();
+    const QMargins around = content->contentsMargins();
+    area->setMinimumWidth(qMin(whole, roomOn(screen()).width() - around.left() - around.right()));
     content->insertWidget(0, area, 1);
     if (focus)
         focus->setFocus();
     connect(qApp, &QApplication::focusChanged, area, [area, inside](QWidget*, QWidget* entered) {
         if (entered && inside->isAncestorOf(entered))
-            area->ensureWidgetVisible(entered, 0, aroundTheCursor);
+            bringIntoView(area, entered);
     });
 }
 

@@ -15,9 +15,9 @@ class QVBoxLayout;
 namespace controls {
 
 /// The frame of every dialog: a title band, the body, the row of commands; centred on the screen and never larger
-/// than it: on a screen too low for it the body scrolls between the title and the commands. Enter presses no button by
-/// itself. Escape and the window's own cross press the cancel command: the first button given to `setCancel` that can
-/// be seen and pressed; the handler of "Quitter" ends the dialog with `leave`.
+/// than it: on a screen too small for it the body scrolls between the title and the commands. Enter presses no button
+/// by itself. Escape and the window's own cross press the cancel command: the first button given to `setCancel` that
+/// can be seen and pressed; the handler of "Quitter" ends the dialog with `leave`.
 class Dialog : public QDialog
 {
     Q_OBJECT

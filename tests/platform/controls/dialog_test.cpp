@@ -223,6 +223,33 @@ TEST(Icons, ArePaintedAtAnySizeInTheirColour)
     EXPECT_GT(inked(applicationIcon(), 16, QIcon::Normal).size(), 4);
 }
 
+TEST(Dialog, OnANarrowScreenTheBodyScrollsToThePanelOfWhatHasTheFocus)
+{
+    Dialog wide(u"j_Large", u"Large"_s);
+    QList<QWidget*> panels;
+    auto* row = new QHBoxLayout;
+    for (int i = 0; i < 4; ++i) {
+        panels.append(new QFrame);
+        panels.last()->setFixedSize(500, 200);
+        auto* column = new QVBoxLayout(panels.last());
+        column->addWidget(named(new TextField, u"Text1", i));
+        column->addWidget(new QPushButton(u"OK"_s), 0, Qt::AlignRight);
+        row->addWidget(panels.last());
+    }
+    wide.body()->addLayout(row);
+    auto* bar = new CommandBar;
+    bar->add(0, u"quitter", u"Quitter"_s);
+    wide.commands()->addWidget(bar);
+    control(wide, u"Text1(0)"_s)->setFocus();
+    show(wide);
+    EXPECT_LE(wide.width(), wide.screen()->availableGeometry().width());
+    EXPECT_TRUE(wide.rect().contains(bar->geometry()));
+    for (int i = 0; i < panels.size(); ++i) {
+        control(wide, familyName(u"Text1", i))->setFocus();
+        EXPECT_EQ(panels[i]->visibleRegion().boundingRect(), panels[i]->rect()) << i;
+    }
+}
+
 TEST(Dialog, OnALowScreenTheBodyScrollsToWhatHasTheFocus)
 {
     constexpr int fields = 40;
