@@ -1,7 +1,6 @@
 #include "invoicing/cadre_filtre_factures.h"
 
 #include "core/montrer.h"
-#include "core/typed_dates.h"
 #include "platform/controls/command_bar.h"
 #include "platform/controls/field_chain.h"
 #include "platform/controls/labels.h"
@@ -234,13 +233,10 @@ void CadreFiltreFactures::ouvrir()
 
 void CadreFiltreFactures::viserFaute()
 {
-    const bool premiereJuste = dateComplete(m_dates[Premiere]->text().trimmed());
-    const bool secondeJuste = dateComplete(m_dates[Seconde]->text().trimmed());
-    controls::TextField* champ = m_dates[m_genre == Genre::Jour           ? Jour
-                                         : premiereJuste && !secondeJuste ? Seconde
-                                                                          : Premiere];
-    champ->setFocus();
-    champ->selectAll();
+    if (m_genre == Genre::Periode)
+        return viserDateFautive(m_dates[Premiere], m_dates[Seconde]);
+    m_dates[Jour]->setFocus();
+    m_dates[Jour]->selectAll();
 }
 
 /// Enter takes the filter from every control but the dates, which it walks through.

@@ -93,15 +93,8 @@ Q_Date_2::Q_Date_2(const QString& dateInitiale, QWidget* parent)
     body()->addWidget(creerBarreMois());
     body()->addWidget(creerCellules(), 1);
     body()->addWidget(m_date);
+    askAtFoot(u"Image2"_s, Prendre, Annuler, [this] { prendre(); });
 
-    auto* commandes = new controls::CommandBar(u"Image2"_s);
-    commandes->addStretch();
-    commandes->add(Prendre, u"ok", u"OK"_s)->setPrimary();
-    auto* annuler = commandes->add(Annuler, u"annuler", u"Annuler"_s);
-    this->commands()->addWidget(commandes);
-    setCancel({annuler});
-
-    connect(commandes, &controls::CommandBar::triggered, this, &Q_Date_2::executer);
     connect(m_mois, &QComboBox::currentIndexChanged, this,
             [this](int rang) { changer([&] { m_calendrier.choisirMois(rang + 1); }); });
     connect(m_annee, &QComboBox::currentIndexChanged, this,
@@ -126,7 +119,7 @@ QWidget* Q_Date_2::creerBarreMois()
     const auto ajouterBouton = [&](int index, QStringView image, const QString& nom) {
         QToolButton* bouton = named(controls::iconButton(image, nom), u"Image2", index);
         bouton->setAutoRepeat(true);
-        connect(bouton, &QToolButton::clicked, this, [this, index] { executer(index); });
+        connect(bouton, &QToolButton::clicked, this, [this, index] { feuilleter(index); });
         ligne->addWidget(bouton);
     };
     ajouterBouton(AnneePrecedente, u"premiere-page", u"Année précédente (Ctrl+Page préc.)"_s);
@@ -164,13 +157,9 @@ QWidget* Q_Date_2::creerCellules()
     return m_grille;
 }
 
-void Q_Date_2::executer(int index)
+void Q_Date_2::feuilleter(int index)
 {
     switch (index) {
-    case Prendre:
-        return prendre();
-    case Annuler:
-        return leave();
     case MoisPrecedent:
         return changer([this] { m_calendrier.avancerMois(-1); });
     case MoisSuivant:
@@ -227,9 +216,9 @@ void Q_Date_2::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Down:
         return changer([this] { m_calendrier.avancerJours(Calendrier::joursSemaine); });
     case Qt::Key_PageUp:
-        return executer(annee ? AnneePrecedente : MoisPrecedent);
+        return feuilleter(annee ? AnneePrecedente : MoisPrecedent);
     case Qt::Key_PageDown:
-        return executer(annee ? AnneeSuivante : MoisSuivant);
+        return feuilleter(annee ? AnneeSuivante : MoisSuivant);
     case Qt::Key_Home:
         return changer([this] { m_calendrier.choisirJour(1); });
     case Qt::Key_End:

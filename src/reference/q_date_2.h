@@ -39,7 +39,7 @@ protected:
 private:
     QWidget* creerBarreMois();
     QWidget* creerCellules();
-    void executer(int index);
+    void feuilleter(int index);
     void afficher();
     void prendre();
     template<class Pas> void changer(Pas pas);

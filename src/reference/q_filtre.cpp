@@ -64,7 +64,7 @@ std::optional<Filtre> Q_Filtre::demander(QWidget* parent, const Exercice& exerci
 Q_Filtre::Q_Filtre(const Exercice& exercice, QWidget* parent)
     : Dialog(u"Q_Filtre", u"Opérations  à  éditer"_s, parent)
     , m_pages(named(new QTabWidget, u"SSTab1"))
-    , m_mois(named(new QComboBox, u"Combo1"))
+    , m_mois(named(creerComboMois(), u"Combo1"))
     , m_archive(new QButtonGroup(this))
 {
     m_pages->addTab(creerPageMois(), u" &Mois"_s);
@@ -80,11 +80,6 @@ Q_Filtre::Q_Filtre(const Exercice& exercice, QWidget* parent)
 
 QWidget* Q_Filtre::creerPageMois()
 {
-    for (const QString& nom : NomsMois)
-        m_mois->addItem(nom);
-    m_mois->setMaxVisibleItems(static_cast<int>(NomsMois.size()));
-    m_mois->setCurrentIndex(services::clock::today().month() - 1);
-
     auto* page = new QWidget;
     auto* ligne = new QHBoxLayout(page);
     ligne->setContentsMargins(16, 16, 16, 16);
@@ -169,8 +164,7 @@ void Q_Filtre::prendre()
     const Resultat<Periode> periode = lirePeriode(m_dates.front()->text(), m_dates.back()->text());
     if (!periode) {
         montrer(this, periode.refus());
-        m_dates.front()->setFocus();
-        return m_dates.front()->selectAll();
+        return viserDateFautive(m_dates.front(), m_dates.back());
     }
     m_choisi = Filtre{*periode, archive};
     leave(1);

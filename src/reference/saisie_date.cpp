@@ -1,8 +1,13 @@
 #include "reference/saisie_date.h"
 
+#include "core/state.h"
+#include "core/typed_dates.h"
 #include "platform/controls/command_bar.h"
 #include "platform/controls/text_field.h"
+#include "platform/services/clock.h"
 #include "reference/q_date_2.h"
+
+#include <QComboBox>
 
 namespace talor {
 
@@ -20,6 +25,24 @@ SaisieDate creerSaisieDate(QWidget* dialogue)
         champ->setFocus();
     });
     return {champ, calendrier};
+}
+
+void viserDateFautive(TextField* premiere, TextField* seconde)
+{
+    const auto juste = [](const TextField* date) { return dateComplete(date->text().trimmed()); };
+    TextField* fautive = juste(premiere) && !juste(seconde) ? seconde : premiere;
+    fautive->setFocus(Qt::TabFocusReason);
+    fautive->selectAll();
+}
+
+QComboBox* creerComboMois()
+{
+    auto* combo = new QComboBox;
+    for (const QString& nom : NomsMois)
+        combo->addItem(nom);
+    combo->setMaxVisibleItems(static_cast<int>(NomsMois.size()));
+    combo->setCurrentIndex(services::clock::today().month() - 1);
+    return combo;
 }
 
 } // namespace talor

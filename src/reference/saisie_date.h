@@ -1,5 +1,6 @@
 #pragma once
 
+class QComboBox;
 class QToolButton;
 class QWidget;
 
@@ -19,5 +20,11 @@ struct SaisieDate
 
 /// `dialogue` is what the calendar opens over. Both controls are the caller's to name and place.
 SaisieDate creerSaisieDate(QWidget* dialogue);
+
+/// Brings the focus to the date at fault of a refused period: to the second where it alone is incomplete.
+void viserDateFautive(controls::TextField* premiere, controls::TextField* seconde);
+
+/// The twelve months by their names, standing on the current one.
+QComboBox* creerComboMois();
 
 } // namespace talor

@@ -1,6 +1,5 @@
 #include "sales/cadre_filtre_bordereaux.h"
 
-#include "core/typed_dates.h"
 #include "platform/controls/command_bar.h"
 #include "platform/controls/field_chain.h"
 #include "platform/controls/labels.h"
@@ -62,7 +61,7 @@ template<class Action> QToolButton* bouton(int index, QStringView image, const Q
 CadreFiltreBordereaux::CadreFiltreBordereaux(Exercice& exercice, const RegistreBordereaux& registre, QWidget* dialogue)
     : m_registre(registre)
     , m_bateau(named(creerComboChoix(), u"Combo21"))
-    , m_mois(named(new QComboBox, u"Combo1"))
+    , m_mois(named(creerComboMois(), u"Combo1"))
 {
     named(this, u"SSFrame2");
     setAccessibleName(u"Filtre"_s);
@@ -112,11 +111,6 @@ QBoxLayout* CadreFiltreBordereaux::creerBateau(Exercice& exercice, QWidget* dial
 
 QBoxLayout* CadreFiltreBordereaux::creerMois(QWidget* dialogue)
 {
-    for (const QString& nom : NomsMois)
-        m_mois->addItem(nom);
-    m_mois->setMaxVisibleItems(static_cast<int>(NomsMois.size()));
-    m_mois->setCurrentIndex(services::clock::today().month() - 1);
-
     auto* ligne = new QHBoxLayout;
     ligne->addWidget(m_mois);
     ligne->addWidget(bouton(RechercheMois, u"recherche", u"Choisir le mois"_s, [this, dialogue] {
@@ -180,9 +174,7 @@ void CadreFiltreBordereaux::viser(const FiltreBordereaux& refuse)
 {
     if (refuse.genre == Genre::Mois)
         return m_mois->setFocus(Qt::TabFocusReason);
-    TextField* champ = dateComplete(refuse.premiere) && !dateComplete(refuse.seconde) ? m_dates[1] : m_dates[0];
-    champ->setFocus(Qt::TabFocusReason);
-    champ->selectAll();
+    viserDateFautive(m_dates[0], m_dates[1]);
 }
 
 FiltreBordereaux CadreFiltreBordereaux::filtre(Genre genre) const

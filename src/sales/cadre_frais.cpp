@@ -58,8 +58,6 @@ CadreFrais::CadreFrais(SaisieBordereau& saisie, QWidget* parent)
     colonne->addStretch();
     colonne->addWidget(creerPied());
     enchainer();
-    connect(m_pave, &controls::NumberPad::displayChanged, this,
-            [this](const QString& nombre) { m_montants[m_enMain]->setText(nombre); });
 }
 
 QWidget* CadreFrais::creerLignes()
@@ -77,18 +75,18 @@ QWidget* CadreFrais::creerLignes()
         m_montants[i]->setAccessibleName(u"Montant %1"_s.arg(i + 1));
         m_libelles[i]->setMinimumWidth(largeurLibelle);
         m_montants[i]->setFixedWidth(largeurMontant);
-        m_marques[i] = controls::markLabel();
+        QLabel* marque = controls::markLabel();
+        m_pave->serve(m_montants[i], marque);
         connect(m_libelles[i], &TextField::textChanged, this,
                 [this, i](const QString& texte) { m_saisie.saisirLibelle(i, texte); });
         connect(m_montants[i], &TextField::textChanged, this, [this, i](const QString& texte) {
             m_saisie.saisirMontant(i, texte);
             montrerTotal();
         });
-        connect(m_libelles[i], &TextField::entered, this, [this, i] { mettreEnMain(i); });
-        connect(m_montants[i], &TextField::entered, this, [this, i] { mettreEnMain(i); });
+        connect(m_libelles[i], &TextField::entered, this, [this, i] { m_pave->turnTo(i); });
         grille->addWidget(m_libelles[i], i, 0);
         grille->addWidget(m_montants[i], i, 1);
-        grille->addWidget(m_marques[i], i, 2);
+        grille->addWidget(marque, i, 2);
     }
     grille->addWidget(controls::captionLabel(u"Total"_s), SaisieBordereau::nbFrais, 0, Qt::AlignRight);
     grille->addWidget(m_total, SaisieBordereau::nbFrais, 1);
@@ -145,16 +143,8 @@ void CadreFrais::ouvrir()
         m_montants[i]->setText(ligne.montant);
     }
     montrerTotal();
-    mettreEnMain(0);
+    m_pave->turnTo(0);
     m_chaineMontants->goTo(0);
-}
-
-void CadreFrais::mettreEnMain(int rang)
-{
-    m_enMain = rang;
-    m_pave->clear();
-    for (int i = 0; i < SaisieBordereau::nbFrais; ++i)
-        m_marques[i]->setVisible(i == rang);
 }
 
 void CadreFrais::montrerTotal()

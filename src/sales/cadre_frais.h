@@ -41,19 +41,16 @@ private:
     QWidget* creerLignes();
     QWidget* creerPied();
     void enchainer();
-    void mettreEnMain(int rang);
     void montrerTotal();
 
     SaisieBordereau& m_saisie;
     std::array<controls::TextField*, SaisieBordereau::nbFrais> m_libelles{};
     std::array<controls::TextField*, SaisieBordereau::nbFrais> m_montants{};
-    std::array<QLabel*, SaisieBordereau::nbFrais> m_marques{};
     QLabel* m_total;
     controls::NumberPad* m_pave;
     controls::CommandButton* m_abandonner = nullptr;
     controls::FieldChain* m_chaineLibelles;
     controls::FieldChain* m_chaineMontants;
-    int m_enMain = 0; ///< from 0
 };
 
 } // namespace talor

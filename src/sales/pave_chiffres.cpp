@@ -61,8 +61,6 @@ PaveChiffres::PaveChiffres(QWidget* parent)
     colonnes->setSpacing(16);
     colonnes->addLayout(gauche, 1);
     colonnes->addWidget(m_pave);
-    connect(m_pave, &controls::NumberPad::displayChanged, this,
-            [this](const QString& nombre) { m_champs[m_enMain]->setText(nombre); });
 }
 
 QWidget* PaveChiffres::creerChoix()
@@ -103,11 +101,11 @@ QWidget* PaveChiffres::creerChiffres()
         const auto kind = i == Cageots ? TextField::Kind::Digits : TextField::Kind::Amount;
         m_champs[i] = named(new TextField(kind, longueurChamp), u"Text22", i);
         m_champs[i]->setAlignment(Qt::AlignRight);
-        connect(m_champs[i], &TextField::entered, this, [this, i] { mettreEnMain(i); });
-        m_marques[i] = controls::markLabel();
+        QLabel* marque = controls::markLabel();
+        m_pave->serve(m_champs[i], marque);
         grille->addWidget(controls::captionLabel(legendes[i], m_champs[i]), i, 0);
         grille->addWidget(m_champs[i], i, 1);
-        grille->addWidget(m_marques[i], i, 2);
+        grille->addWidget(marque, i, 2);
         m_chaine->add(m_champs[i]);
     }
     return panneau;
@@ -135,22 +133,13 @@ void PaveChiffres::ouvrir()
 {
     for (TextField* champ : m_champs)
         champ->clear();
-    mettreEnMain(Cageots);
+    m_pave->turnTo(Cageots);
     m_chaine->goTo(Cageots);
 }
 
 void PaveChiffres::montrerNom(ChoixLigne choix, const QString& nom)
 {
     m_noms[choix]->setText(nom);
-}
-
-void PaveChiffres::mettreEnMain(int rang)
-{
-    m_enMain = rang;
-    m_pave->clear();
-    m_pave->setPointEnabled(rang != Cageots); // crates are whole
-    for (int i = 0; i < nbChiffres; ++i)
-        m_marques[i]->setVisible(i == rang);
 }
 
 } // namespace talor

@@ -44,15 +44,12 @@ private:
     QWidget* creerChoix();
     QWidget* creerChiffres();
     QWidget* creerBoutons();
-    void mettreEnMain(int rang);
 
     std::array<QLabel*, nbChoixLigne> m_noms{};
     std::array<controls::TextField*, nbChiffres> m_champs{};
-    std::array<QLabel*, nbChiffres> m_marques{};
     controls::NumberPad* m_pave;
     controls::FieldChain* m_chaine;
     controls::CommandButton* m_abandonner = nullptr;
-    int m_enMain = 0;
 };
 
 } // namespace talor

@@ -1,6 +1,5 @@
 #include "shell/identif.h"
 
-#include "platform/controls/command_bar.h"
 #include "platform/controls/field_chain.h"
 #include "platform/controls/labels.h"
 #include "platform/controls/look.h"
@@ -62,7 +61,10 @@ Identif::Identif(Exercice& exercice, QWidget* parent)
     setWindowTitle(u" "_s);
     body()->addWidget(creerCases());
     body()->addStretch();
-    commands()->addWidget(creerCommandes());
+    askAtFoot(u"Image1"_s, Enregistrer, Abandonner, [this] {
+        saisie().enregistrer(m_exercice, m_lue);
+        leave();
+    });
     montrer(Identification::lire(exercice));
     m_cases.front()->setFocus();
 }
@@ -113,20 +115,6 @@ QWidget* Identif::creerSons()
         ligne->addWidget(option);
     ligne->addStretch();
     return options;
-}
-
-QWidget* Identif::creerCommandes()
-{
-    auto* commandes = new controls::CommandBar(u"Image1"_s);
-    commandes->addStretch();
-    commandes->add(Enregistrer, u"ok", u"OK"_s, Qt::CTRL | Qt::Key_Return)->setPrimary();
-    setCancel({commandes->add(Abandonner, u"annuler", u"Annuler"_s)});
-    connect(commandes, &controls::CommandBar::triggered, this, [this](int index) {
-        if (index == Enregistrer)
-            saisie().enregistrer(m_exercice, m_lue);
-        leave();
-    });
-    return commandes;
 }
 
 void Identif::montrer(const Identification& identification)

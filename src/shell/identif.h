@@ -23,7 +23,6 @@ public:
 private:
     QWidget* creerCases();
     QWidget* creerSons();
-    QWidget* creerCommandes();
     void montrer(const Identification& identification);
     Identification saisie() const;
 

@@ -129,7 +129,7 @@ QWidget* Calclette::creerCases()
     auto* chaine = new controls::FieldChain(this);
     for (int i = 0; i < legendesPrimes.size(); ++i) {
         auto* champ = named(new TextField(TextField::Kind::Amount, longueurNombre), u"Text1", i);
-        connect(champ, &TextField::entered, this, [this, i] { mettreEnMain(i); });
+        m_pave->serve(champ);
         colonne->addWidget(controls::captionLabel(legendesPrimes[i], champ));
         colonne->addWidget(champ);
         colonne->addSpacing(8);
@@ -138,8 +138,7 @@ QWidget* Calclette::creerCases()
     }
     colonne->addStretch(1);
     chaine->atLast([this] { valider(); });
-    connect(m_pave, &controls::NumberPad::displayChanged, this,
-            [this](const QString& nombre) { m_cases[m_enMain]->setText(nombre); });
+    connect(m_pave, &controls::NumberPad::turned, this, &Calclette::mettreEnMain);
     return panneau;
 }
 

@@ -98,7 +98,7 @@ void Dialog::askAtFoot(const QString& family, int accept, int cancel, std::funct
 {
     auto* bar = new CommandBar(family);
     bar->addStretch();
-    bar->add(accept, u"ok", u"OK"_s)->setPrimary();
+    bar->add(accept, u"ok", u"OK"_s, Qt::CTRL | Qt::Key_Return)->setPrimary();
     setCancel({bar->add(cancel, u"annuler", u"Annuler"_s)});
     m_commands->addWidget(bar);
     connect(bar, &CommandBar::triggered, this, [this, accept, accepted = std::move(accepted)](int pressed) {

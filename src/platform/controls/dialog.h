@@ -37,8 +37,8 @@ public:
     /// The buttons that Escape stands for, the most pressing first: the cancel of a panel, then "Quitter".
     void setCancel(const QList<QAbstractButton*>& buttons);
 
-    /// The foot of a dialog that asks: "OK", the action that counts, and "Annuler", which leaves. The buttons are named
-    /// by a family and their indexes in it.
+    /// The foot of a dialog that asks: "OK", the action that counts, with Ctrl+Enter from anywhere, and "Annuler",
+    /// which leaves. The buttons are named by a family and their indexes in it.
     void askAtFoot(const QString& family, int accept, int cancel, std::function<void()> accepted);
 
     /// Ends the dialog.

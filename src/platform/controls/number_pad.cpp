@@ -3,6 +3,7 @@
 #include "platform/controls/look.h"
 #include "platform/controls/named.h"
 #include "platform/controls/pad_key.h"
+#include "platform/controls/text_field.h"
 #include "platform/text/keys.h"
 
 #include <QGridLayout>
@@ -54,6 +55,24 @@ void NumberPad::clear()
     m_display->clear();
 }
 
+void NumberPad::serve(TextField* field, QWidget* mark)
+{
+    const int index = static_cast<int>(m_served.size());
+    m_served.append({field, mark});
+    connect(field, &TextField::entered, this, [this, index] { turnTo(index); });
+}
+
+void NumberPad::turnTo(int field)
+{
+    m_inHand = field;
+    clear();
+    m_point->setEnabled(m_served[field].field->kind() != TextField::Kind::Digits);
+    for (int i = 0; i < m_served.size(); ++i)
+        if (QWidget* mark = m_served[i].mark)
+            mark->setVisible(i == field);
+    emit turned(field);
+}
+
 void NumberPad::press(QChar key)
 {
     display(text::padDisplay(m_display->text(), key));
@@ -69,6 +88,8 @@ void NumberPad::display(const QString& text)
     if (text == m_display->text())
         return;
     m_display->setText(text);
+    if (!m_served.isEmpty())
+        m_served[m_inHand].field->setText(text);
     emit displayChanged(text);
 }
 

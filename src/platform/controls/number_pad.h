@@ -7,6 +7,8 @@ class QLabel;
 
 namespace controls {
 
+class TextField;
+
 /// A pad of large keys, for a finger or the mouse: digits, the point, backspace, under the number as it stands. At most
 /// 12 characters and one point. Its keys leave the focus where it is.
 class NumberPad : public QWidget
@@ -24,22 +26,37 @@ public:
     explicit NumberPad(const Names& names, QWidget* parent = nullptr);
 
     QString text() const;
-    /// A field of whole numbers takes no point.
-    void setPointEnabled(bool enabled) { m_point->setEnabled(enabled); }
-    /// Blanks the display without telling it: the pad turns to another field.
+    /// Blanks the display without telling it.
     void clear();
+
+    /// The pad types into this field too, while it is in hand: from when it is entered until another one is. The mark
+    /// beside it shows then. A field of digits takes no point.
+    void serve(TextField* field, QWidget* mark = nullptr);
+    /// The field in hand, counted in the order in which they were given; at first the first.
+    int inHand() const { return m_inHand; }
+    /// Takes a field in hand. Its number begins anew.
+    void turnTo(int field);
 
 signals:
     /// A key changed the number.
     void displayChanged(const QString& text);
+    void turned(int field);
 
 private:
     void press(QChar key);
     void eraseLast();
     void display(const QString& text);
 
+    struct Served
+    {
+        TextField* field;
+        QWidget* mark;
+    };
+
     QLabel* m_display;
     QPushButton* m_point;
+    QList<Served> m_served;
+    int m_inHand = 0;
 };
 
 } // namespace controls

@@ -157,6 +157,36 @@ TEST(NumberPad, BuildsANumberOfAtMostTwelveCharactersAndOnePoint)
     EXPECT_EQ(changed.count(), 0);
 }
 
+TEST(NumberPad, TypesIntoTheFieldEnteredLastAndMarksIt)
+{
+    Dialog dialog(u"j_Pave", u"Pavé"_s);
+    auto* pad = new NumberPad({u"SSCommand11"_s, u"Label11"_s, u"Image22(0)"_s});
+    TextField* fields[] = {new TextField(TextField::Kind::Digits), new TextField(TextField::Kind::Amount)};
+    QLabel* marks[] = {markLabel(), markLabel()};
+    for (int i = 0; i < 2; ++i) {
+        dialog.body()->addWidget(fields[i]);
+        dialog.body()->addWidget(marks[i]);
+        pad->serve(fields[i], marks[i]);
+    }
+    dialog.body()->addWidget(pad);
+    show(dialog);
+    const auto type = [&](const QList<int>& keys) {
+        for (const int key : keys)
+            click(dialog, familyName(u"SSCommand11", key));
+    };
+    fields[0]->setFocus();
+    type({1, 2});
+    EXPECT_EQ(fields[0]->text(), u"12"_s);
+    EXPECT_FALSE(control(dialog, u"SSCommand11(10)"_s)->isEnabled()) << "a field of digits takes no point";
+    fields[1]->setFocus();
+    EXPECT_TRUE(marks[1]->isVisible() && !marks[0]->isVisible());
+    type({3, 10, 5});
+    EXPECT_EQ(fields[1]->text(), u"3.5"_s) << "the number begins anew";
+    EXPECT_EQ(fields[0]->text(), u"12"_s);
+    click(dialog, u"Image22(0)"_s);
+    EXPECT_EQ(fields[1]->text(), u"3."_s);
+}
+
 TEST(NumberPad, ItsKeysAreLargeEnoughForAFinger)
 {
     NumberPad pad({u"SSCommand10"_s, u"Label4"_s, u"Image1(6)"_s});
