@@ -25,7 +25,7 @@ namespace {
 
 constexpr int longueurNumero = 9;
 constexpr int largeurNumero = 72;
-constexpr int lettresBateau = 14;
+constexpr int lettresBateau = 7; // the least, on a screen of 1024
 
 /// Meaning of the indexes of `Image1`.
 enum Action
@@ -59,7 +59,7 @@ CadreOuverture::CadreOuverture(Exercice& exercice, const RegistreBordereaux& reg
     m_calendrier = named(date.calendrier, u"Image2", Calendrier);
     m_numero->setFixedWidth(largeurNumero);
     m_date->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    m_bateau->setMinimumContentsLength(lettresBateau); // and what width is left
+    m_bateau->setMinimumContentsLength(lettresBateau);
     for (CommandButton* bouton : {m_ok, m_annuler})
         bouton->setCompact();
     m_ok->setPrimary();
