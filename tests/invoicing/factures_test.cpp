@@ -85,7 +85,6 @@ protected:
         return textes;
     }
     static QStringList marques(QWidget& d) { return colonne(d, 9); }
-    static QString texte(QWidget& d, const QString& nom) { return control<QLabel>(d, nom)->text(); }
     static QAbstractButton* bouton(QWidget& d, const QString& nom) { return control<QAbstractButton>(d, nom); }
 
     /// Shows what the print opens, and returns the texts of its pages.
@@ -147,10 +146,10 @@ TEST_F(FacturesTest, dix_colonnes_dans_leur_ordre_et_leurs_alignements)
     const QString survols[] = {u" Filtre "_s, u" Impr. Facture "_s, u" Impr. Listing "_s, u" Quitter "_s};
     for (int i = 0; i < 4; ++i)
         EXPECT_EQ(bouton(bis, u"Image1(%1)"_s.arg(i))->toolTip(), survols[i]);
-    EXPECT_EQ(texte(d, u"Label3(0)"_s), u"5 000 "_s);
-    EXPECT_EQ(texte(d, u"Label3(1)"_s), u"200 "_s);
-    EXPECT_EQ(texte(d, u"Label3(2)"_s), u"5 200 "_s);
-    EXPECT_EQ(texte(d, u"Label4"_s), u"Nombre total de facture(s) : 1"_s);
+    EXPECT_EQ(textOf(d, u"Label3(0)"_s), u"5 000 "_s);
+    EXPECT_EQ(textOf(d, u"Label3(1)"_s), u"200 "_s);
+    EXPECT_EQ(textOf(d, u"Label3(2)"_s), u"5 200 "_s);
+    EXPECT_EQ(textOf(d, u"Label4"_s), u"Nombre total de facture(s) : 1"_s);
 }
 
 TEST_F(FacturesTest, un_jour_sans_facture_ouvre_une_liste_fermee_et_le_filtre_en_sort)
@@ -161,8 +160,8 @@ TEST_F(FacturesTest, un_jour_sans_facture_ouvre_une_liste_fermee_et_le_filtre_en
     show(d);
     EXPECT_FALSE(liste(d)->isEnabled());
     for (int i = 0; i < 3; ++i)
-        EXPECT_EQ(texte(d, u"Label3(%1)"_s.arg(i)), QString());
-    EXPECT_EQ(texte(d, u"Label4"_s), u"Nombre total de facture(s) : 0"_s);
+        EXPECT_EQ(textOf(d, u"Label3(%1)"_s.arg(i)), QString());
+    EXPECT_EQ(textOf(d, u"Label4"_s), u"Nombre total de facture(s) : 0"_s);
     EXPECT_FALSE(bouton(d, u"Image1(1)"_s)->isEnabled());
     EXPECT_EQ(d.focusWidget(), control(d, u"Image1(0)"_s));
 
@@ -171,15 +170,15 @@ TEST_F(FacturesTest, un_jour_sans_facture_ouvre_une_liste_fermee_et_le_filtre_en
     for (int i = 0; i < 4; ++i)
         EXPECT_FALSE(bouton(d, u"Image1(%1)"_s.arg(i))->isEnabled());
     press(d, Qt::Key_Down);
-    EXPECT_EQ(control<QLineEdit>(d, u"Text1(1)"_s)->text(), u"03/01/2026"_s);
-    EXPECT_EQ(control<QLineEdit>(d, u"Text1(2)"_s)->text(), u"20/05/2026"_s);
+    EXPECT_EQ(textOf(d, u"Text1(1)"_s), u"03/01/2026"_s);
+    EXPECT_EQ(textOf(d, u"Text1(2)"_s), u"20/05/2026"_s);
     press(d, Qt::Key_Return);
     press(d, Qt::Key_Return);
     EXPECT_FALSE(control(d, u"SSFrame1"_s)->isVisible());
     EXPECT_EQ(liste(d)->rowCount(), 2);
     EXPECT_EQ(d.focusWidget(), liste(d));
     EXPECT_EQ(liste(d)->currentRow(), 0);
-    EXPECT_EQ(texte(d, u"Label4(0)"_s), u"Ensemble des factures du 03/01/2026 au 20/05/2026"_s);
+    EXPECT_EQ(textOf(d, u"Label4(0)"_s), u"Ensemble des factures du 03/01/2026 au 20/05/2026"_s);
     press(d, Qt::Key_Escape);
     EXPECT_FALSE(d.isVisible());
 }
@@ -242,13 +241,13 @@ TEST_F(FacturesTest, le_filtre_au_pointeur_joint_client_reglement_et_classement)
     EXPECT_EQ(filtrer(), QStringList({u"1"_s, u"2"_s, u"3"_s}));
     click(bouton(d, u"SSOption1(0)"_s));
     EXPECT_EQ(filtrer(), QStringList({u"1"_s, u"3"_s}));
-    EXPECT_EQ(texte(d, u"Label4(0)"_s), u"Factures non réglées du 01/06/2026 au 03/06/2026"_s);
+    EXPECT_EQ(textOf(d, u"Label4(0)"_s), u"Factures non réglées du 01/06/2026 au 03/06/2026"_s);
     {
         const auto choix = whenOpened<Q_Client>([](Q_Client& q) { click(q, u"Image1(0)"_s); });
         click(d, u"Image4(5)"_s);
     }
     EXPECT_EQ(filtrer(), QStringList({u"3"_s}));
-    EXPECT_EQ(texte(d, u"Label4(1)"_s), u"Client ----> AMARI  Said"_s);
+    EXPECT_EQ(textOf(d, u"Label4(1)"_s), u"Client ----> AMARI  Said"_s);
     click(bouton(d, u"SSOption1(1)"_s));
     click(d, u"Image4(6)"_s);
     EXPECT_EQ(filtrer(), QStringList({u"2"_s}));
@@ -259,7 +258,7 @@ TEST_F(FacturesTest, le_filtre_au_pointeur_joint_client_reglement_et_classement)
         });
         click(d, u"Image4(0)"_s);
     }
-    EXPECT_EQ(control<QLineEdit>(d, u"Text1(0)"_s)->text(), u"16/06/2026"_s);
+    EXPECT_EQ(textOf(d, u"Text1(0)"_s), u"16/06/2026"_s);
     click(d, u"Image2(4)"_s);
     EXPECT_FALSE(control(d, u"SSFrame1"_s)->isVisible());
     EXPECT_EQ(d.focusWidget(), liste(d));
@@ -334,7 +333,7 @@ TEST_F(FacturesTest, la_facture_actuelle_s_imprime_a_l_ecran_au_clavier)
         show(*d);
         press(*d, Qt::Key_Down);
         press(*d, Qt::Key_P, Qt::ControlModifier);
-        EXPECT_EQ(d->focusWidget()->objectName(), u"Option2(1)"_s) << "nothing is marked: the selected one";
+        EXPECT_EQ(focusOf(*d), u"Option2(1)"_s) << "nothing is marked: the selected one";
         const QStringList facture = imprime([&] { press(*d, Qt::Key_Return); });
         ASSERT_EQ(facture.size(), 1);
         for (const QString& attendu : {u"Facture N° 3 / 2026"_s, u"Arrêtée la présente facture à la somme de :"_s,
@@ -387,7 +386,7 @@ TEST_F(FacturesTest, ce_qui_empeche_d_imprimer_se_dit)
         ExpectMessages messages{{u"Aucune sélection"_s, u"ATTENTION"_s}};
         click(bouton(d, u"Option2(0)"_s));
         press(d, Qt::Key_Return, Qt::ControlModifier);
-        EXPECT_EQ(d.focusWidget()->objectName(), u"Option2(0)"_s);
+        EXPECT_EQ(focusOf(d), u"Option2(0)"_s);
     }
     QFile::remove(t.chemin(u"Facture.RPT"_s));
     QFile::remove(t.chemin(u"List_fct.RPT"_s));
