@@ -23,10 +23,7 @@ protected:
         exemples.client(u"SLIMANI"_s, u"Omar"_s);
         exemples.client(u"O'Brien"_s, u"Pat"_s);
         exemples.client(u"l'Étoile"_s, u"Sarl"_s);
-        t.exercice.Clients.seek(3);
-        t.exercice.Clients.edit();
-        t.exercice.Clients.set("Solde", -12500);
-        t.exercice.Clients.update();
+        Exemples::changer(t.exercice.Clients, 3, {{"Solde", -12500}});
     }
 
     static QString nomEnMain(Rech_Rap& d)

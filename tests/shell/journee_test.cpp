@@ -6,50 +6,26 @@
 #include "invoicing/fact_bis.h"
 #include "invoicing/factura.h"
 #include "platform/controls/grid.h"
-#include "platform/reports/page_view.h"
-#include "platform/reports/preview.h"
 #include "platform/services/clock.h"
 #include "reference/q_selection.h"
 #include "sales/f_bord.h"
 #include "sales/j_vente.h"
 #include "shell/fonctions.h"
 #include "shell/form1.h"
+#include "tests/support/apercu.h"
 #include "tests/support/exemples.h"
 #include "tests/support/exercice_temporaire.h"
-#include "tests/support/keys.h"
 #include "tests/support/messages.h"
 #include "tools/calclette.h"
 
-#include <QAbstractButton>
 #include <QFile>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 using namespace talor;
 using controls::Grid;
-using reports::Apercu;
 
 namespace {
-
-/// The texts of every page of the next document that opens.
-QStringList pagesMontrees(const std::function<void()>& action)
-{
-    QStringList pages;
-    {
-        const auto apercu = whenOpened<Apercu>([&pages](Apercu& a) {
-            for (const reports::Page& page : a.view()->document().pages()) {
-                QStringList textes;
-                for (const reports::TextRun& run : page.texts)
-                    textes += run.text;
-                pages += textes.join(u'\n');
-            }
-            press(a, Qt::Key_Escape);
-        });
-        action();
-    }
-    QCoreApplication::processEvents();
-    return pages;
-}
 
 /// One way of working: every gesture by keys, or every gesture by touch.
 class Geste
