@@ -4,6 +4,7 @@
 #include "tests/support/exemples.h"
 #include "tests/support/exercice_temporaire.h"
 #include "tests/support/print.h"
+#include "tests/support/registre.h"
 
 using namespace Qt::StringLiterals;
 using namespace talor;
@@ -24,22 +25,6 @@ protected:
     {
         zoulim = exemples.client(u"ZOULIM"_s, u"Ali"_s, u"024 11 22 33"_s);
         amari = exemples.client(u"AMARI"_s, u"Said"_s);
-    }
-
-    static QStringList ligne(const RegistreFactures& registre, int rang)
-    {
-        QStringList cellules;
-        for (int colonne = 0; colonne < nbColonnesFacture; ++colonne)
-            cellules += registre.cellule(rang, colonne);
-        return cellules;
-    }
-
-    static QList<qint64> nums(const RegistreFactures& registre)
-    {
-        QList<qint64> liste;
-        for (int rang = 0; rang < registre.nbLignes(); ++rang)
-            liste += registre.num(rang);
-        return liste;
     }
 
     QString texte(const char* champ)
@@ -84,9 +69,10 @@ TEST_F(ListeFactures, les_factures_du_jour_se_montrent_par_nom_avec_leurs_sommes
     exemples.facture({.client = amari, .ordre = 8, .date = u"16/06/2026"_s, .Total_HT = 9});
     const RegistreFactures registre(exercice, Porte::Registre, jour);
     ASSERT_EQ(registre.nbLignes(), 2);
-    EXPECT_EQ(ligne(registre, 0), QStringList({u"-1"_s, jour, u"AMARI  Said "_s, u" "_s, u""_s, u"500.40 "_s, u".00 "_s,
-                                               u"500.40 "_s, u""_s, u""_s}));
-    EXPECT_EQ(ligne(registre, 1),
+    EXPECT_EQ(ligneDe(registre, 0, nbColonnesFacture),
+              QStringList({u"-1"_s, jour, u"AMARI  Said "_s, u" "_s, u""_s, u"500.40 "_s, u".00 "_s, u"500.40 "_s,
+                           u""_s, u""_s}));
+    EXPECT_EQ(ligneDe(registre, 1, nbColonnesFacture),
               QStringList({u"7"_s, jour, u"ZOULIM  Ali "_s, u"024 11 22 33 "_s, u"12"_s, u"1 234 567.50 "_s,
                            u"1 200.00 "_s, u"1 235 767.50 "_s, u"OUI  "_s, u""_s}));
     EXPECT_EQ(registre.sommeTotalHT(), u"1 235 068 "_s);
@@ -134,7 +120,7 @@ TEST_F(ListeFactures, le_filtre_joint_jour_ou_periode_client_et_reglement)
     RegistreFactures registre(exercice, Porte::Registre, jour);
     for (const auto& c : cas) {
         EXPECT_FALSE(registre.ApplyFilter(c.filtre));
-        EXPECT_EQ(nums(registre), c.lignes) << c.titre1.toStdString();
+        EXPECT_EQ(numsDe(registre), c.lignes) << c.titre1.toStdString();
         EXPECT_EQ(registre.titre1(), c.titre1);
         EXPECT_EQ(registre.titre2(), c.titre2);
     }

@@ -88,11 +88,7 @@ TEST_F(Facturation, la_consigne_est_du_total_mais_pas_du_debit)
 
 TEST_F(Facturation, le_compte_du_client_se_poursuit)
 {
-    exercice.Clients.seek(amari);
-    exercice.Clients.edit();
-    for (const auto& [champ, valeur] : {std::pair("Debit", 1000), {"Credit", 300}, {"Casiers", 50}, {"Rendu", 45}})
-        exercice.Clients.set(champ, valeur);
-    exercice.Clients.update();
+    Exemples::changer(exercice.Clients, amari, {{"Debit", 1000}, {"Credit", 300}, {"Casiers", 50}, {"Rendu", 45}});
     vendre(amari, 2, 0, 250);
     ASSERT_TRUE(InvoiceAll(exercice, {jour}));
     ASSERT_TRUE(exercice.Clients.seek(amari));

@@ -21,11 +21,11 @@ public:
     Dialogue dialogue;
 
     controls::Grid* grille() { return control<controls::Grid>(dialogue, QStringLiteral("Grid1")); }
-    bool enSaisie() { return control(dialogue, QStringLiteral("SSFrame1"))->isVisible(); }
-    QString titre() { return control<QLabel>(dialogue, QStringLiteral("SSPanel2"))->text(); }
-    QString champ(int index) { return control<QLineEdit>(dialogue, nom(index))->text(); }
+    bool enSaisie() { return isShown(dialogue, QStringLiteral("SSFrame1")); }
+    QString titre() { return textOf(dialogue, QStringLiteral("SSPanel2")); }
+    QString champ(int index) { return textOf(dialogue, nom(index)); }
     /// Name of the control that has the focus.
-    QString focus() { return dialogue.focusWidget() ? dialogue.focusWidget()->objectName() : QString(); }
+    QString focus() { return focusOf(dialogue); }
 
     void touche(Qt::Key cle, Qt::KeyboardModifiers modifieurs = {}) { press(dialogue, cle, modifieurs); }
     void ok() { touche(Qt::Key_Return, Qt::ControlModifier); }

@@ -57,8 +57,8 @@ struct Familles_Test : testing::Test
         return textes;
     }
 
-    static QString texte(Familles& d) { return control<QLineEdit>(d, u"Text1"_s)->text(); }
-    static QString titre(Familles& d) { return control<QLabel>(d, u"SSPanel2"_s)->text(); }
+    static QString texte(Familles& d) { return textOf(d, u"Text1"_s); }
+    static QString titre(Familles& d) { return textOf(d, u"SSPanel2"_s); }
 
     ExerciceTemporaire t;
 };
@@ -79,7 +79,7 @@ TEST_F(j_Client_Test, un_client_s_entre_au_clavier_avec_sa_categorie)
     EXPECT_EQ(f.focus(), u"Text1(10)"_s) << "Enter does nothing in the last one-line field";
     {
         const auto choix = whenOpened<Familles>([](Familles& d) {
-            EXPECT_EQ(control<QLineEdit>(d, u"Text1"_s)->text(), u"Restaurants"_s);
+            EXPECT_EQ(textOf(d, u"Text1"_s), u"Restaurants"_s);
             press(d, Qt::Key_Up);
             press(d, Qt::Key_Return);
         });

@@ -39,7 +39,7 @@ void ouvrirPeriode(Q_Filtre& d)
 
 QString date(Q_Filtre& d, int index)
 {
-    return control<QLineEdit>(d, u"Text1(%1)"_s.arg(index))->text();
+    return textOf(d, u"Text1(%1)"_s.arg(index));
 }
 
 } // namespace
@@ -56,7 +56,7 @@ TEST_F(FiltreTest, les_boutons_et_les_fleches_changent_le_mois)
     const auto filtre = demander([](Q_Filtre& d) {
         click(d, u"Image1(3)"_s);
         click(d, u"Image1(3)"_s);
-        EXPECT_EQ(control<QComboBox>(d, u"Combo1"_s)->currentText(), u"Décembre"_s);
+        EXPECT_EQ(textOf(d, u"Combo1"_s), u"Décembre"_s);
         click(d, u"Image1(4)"_s);
         press(d, Qt::Key_Up);
         control<QRadioButton>(d, u"Option1(1)"_s)->setChecked(true);

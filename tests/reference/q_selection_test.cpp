@@ -30,11 +30,6 @@ protected:
     QWidget fenetre;
 };
 
-bool visible(QWidget& dialogue, const QString& nom)
-{
-    return control(dialogue, nom)->isVisible();
-}
-
 } // namespace
 
 TEST_F(SelectionTest, une_table_vide_se_dit_et_ne_choisit_rien)
@@ -90,11 +85,11 @@ TEST_F(SelectionTest, les_boutons_montent_descendent_et_se_cachent_aux_bouts)
     int sons = 0;
     services::sound::setRecorder([&](const QString&) { ++sons; });
     const auto travail = whenOpened<Q_Client>([](Q_Client& d) {
-        EXPECT_FALSE(visible(d, u"Image1(3)"_s)) << "no row above the first";
+        EXPECT_FALSE(isShown(d, u"Image1(3)"_s)) << "no row above the first";
         click(d, u"Image1(2)"_s);
-        EXPECT_TRUE(visible(d, u"Image1(3)"_s));
+        EXPECT_TRUE(isShown(d, u"Image1(3)"_s));
         click(d, u"Image1(2)"_s);
-        EXPECT_FALSE(visible(d, u"Image1(2)"_s)) << "no row below the last";
+        EXPECT_FALSE(isShown(d, u"Image1(2)"_s)) << "no row below the last";
         click(d, u"Image1(3)"_s);
         click(d, u"Image1(0)"_s);
     });
@@ -112,7 +107,7 @@ TEST_F(SelectionTest, la_derniere_ligne_d_une_longue_liste_reste_en_vue)
         EXPECT_EQ(grille->currentRow(), 40);
         EXPECT_TRUE(grille->viewport()->rect().contains(grille->visualRect(grille->model()->index(40, 0))));
         press(d, Qt::Key_End);
-        EXPECT_FALSE(visible(d, u"Image1(2)"_s));
+        EXPECT_FALSE(isShown(d, u"Image1(2)"_s));
         press(d, Qt::Key_Enter);
     });
     EXPECT_EQ(Q_Client::demander(&fenetre, t.exercice)->num, 300);
@@ -151,14 +146,14 @@ TEST_F(SelectionTest, le_mois_se_choisit_par_sa_ligne_ou_ses_lettres)
     EXPECT_EQ(prendre(11,
                       [](Q_Mos& d) {
                           click(d, u"Image1(2)"_s);
-                          EXPECT_FALSE(visible(d, u"Image1(2)"_s));
+                          EXPECT_FALSE(isShown(d, u"Image1(2)"_s));
                           click(d, u"Image1(0)"_s);
                       }),
               12);
     EXPECT_EQ(prendre(2,
                       [](Q_Mos& d) {
                           click(d, u"Image1(3)"_s);
-                          EXPECT_FALSE(visible(d, u"Image1(3)"_s));
+                          EXPECT_FALSE(isShown(d, u"Image1(3)"_s));
                           click(d, u"Image1(0)"_s);
                       }),
               1);

@@ -23,10 +23,7 @@ protected:
         exemples.client(u"SLIMANI"_s, u"Omar"_s);
         exemples.client(u"O'Brien"_s, u"Pat"_s);
         exemples.client(u"l'Étoile"_s, u"Sarl"_s);
-        t.exercice.Clients.seek(3);
-        t.exercice.Clients.edit();
-        t.exercice.Clients.set("Solde", -12500);
-        t.exercice.Clients.update();
+        Exemples::changer(t.exercice.Clients, 3, {{"Solde", -12500}});
     }
 
     static QString nomEnMain(Rech_Rap& d)
@@ -72,7 +69,7 @@ TEST_F(RechRapTest, le_nom_restreint_la_liste_et_autre_choix_la_rend)
 
     click(d, u"Image1(1)"_s);
     EXPECT_EQ(grille->rowCount(), 3);
-    EXPECT_EQ(control<QLineEdit>(d, u"Text1(1)"_s)->text(), QString());
+    EXPECT_EQ(textOf(d, u"Text1(1)"_s), QString());
     type(d, u"Text1(1)"_s, u"o"_s);
     press(d, Qt::Key_Down);
     type(d, u"Text1(2)"_s, u"p"_s);
@@ -94,7 +91,7 @@ TEST_F(RechRapTest, ce_qui_manque_se_dit_et_la_liste_reste)
     type(d, u"Text1(1)"_s, u"*"_s);
     click(d, u"Image2(1)"_s);
     EXPECT_EQ(control<Grid>(d, u"Grid1"_s)->rowCount(), 3);
-    EXPECT_EQ(control<QLineEdit>(d, u"Text1(1)"_s)->text(), u"*"_s);
+    EXPECT_EQ(textOf(d, u"Text1(1)"_s), u"*"_s);
     EXPECT_EQ(zooms, QList<qint64>());
 }
 

@@ -99,12 +99,7 @@ TEST_F(RechercheTest, un_client_se_montre_avec_sa_famille_et_son_solde)
     const qint64 famille = *ajouterCategorie(t.exercice, u"Mareyeurs"_s);
     const qint64 num = exemples.client(u"AMRANI"_s, u"Ali"_s);
     exemples.client(u"SLIMANI"_s);
-    t.exercice.Clients.seek(num);
-    t.exercice.Clients.edit();
-    t.exercice.Clients.set("ville", u"Ténès"_s);
-    t.exercice.Clients.set("famille", famille);
-    t.exercice.Clients.set("Solde", -1250.5);
-    t.exercice.Clients.update();
+    Exemples::changer(t.exercice.Clients, num, {{"ville", u"Ténès"_s}, {"famille", famille}, {"Solde", -1250.5}});
 
     const QList<ClientTrouve> clients = listerClients(t.exercice);
     EXPECT_EQ(clients[0].num, num);

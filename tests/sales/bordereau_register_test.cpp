@@ -4,6 +4,7 @@
 #include "tests/support/exercice_temporaire.h"
 #include "tests/support/panne.h"
 #include "tests/support/print.h"
+#include "tests/support/registre.h"
 
 using namespace Qt::StringLiterals;
 using namespace talor;
@@ -23,31 +24,6 @@ protected:
         nadjet = exemples.chalutier(u"NADJET"_s);
     }
 
-    void modifier(qint64 bordereau, const QList<std::pair<const char*, QVariant>>& champs)
-    {
-        ASSERT_TRUE(exercice.Bordereaux.seek(bordereau));
-        exercice.Bordereaux.edit();
-        for (const auto& [champ, valeur] : champs)
-            exercice.Bordereaux.set(champ, valeur);
-        exercice.Bordereaux.update();
-    }
-
-    static QStringList ligne(const RegistreBordereaux& registre, int rang)
-    {
-        QStringList cellules;
-        for (int colonne = 0; colonne < nbColonnesBordereau; ++colonne)
-            cellules += registre.cellule(rang, colonne);
-        return cellules;
-    }
-
-    static QList<qint64> nums(const RegistreBordereaux& registre)
-    {
-        QList<qint64> liste;
-        for (int rang = 0; rang < registre.nbLignes(); ++rang)
-            liste += registre.num(rang);
-        return liste;
-    }
-
     ExerciceTemporaire t;
     Exercice& exercice;
     Exemples exemples;
@@ -59,30 +35,32 @@ protected:
 TEST_F(Registre, un_zero_se_montre_vide_et_la_commission_se_calcule)
 {
     const qint64 plein = exemples.bordereau(u"02/03/2026"_s, nadjet);
-    modifier(plein, {{"Casiers", 120},
-                     {"brut", 123456.5},
-                     {"primes", 1000},
-                     {"Commission", 15},
-                     {"MT_Commission", 99},
-                     {"frais", 12.3},
-                     {"net", 98765},
-                     {"flag_f", true},
-                     {"ordre_decompte", 7}});
+    Exemples::changer(exercice.Bordereaux, plein,
+                      {{"Casiers", 120},
+                       {"brut", 123456.5},
+                       {"primes", 1000},
+                       {"Commission", 15},
+                       {"MT_Commission", 99},
+                       {"frais", 12.3},
+                       {"net", 98765},
+                       {"flag_f", true},
+                       {"ordre_decompte", 7}});
     exemples.bordereau(u"03/03/2026"_s, 999);
-    modifier(exemples.bordereau(u"04/03/2026"_s, amal),
-             {{"Num_Chalutier", QVariant()}, {"brut", 500}, {"flag_f", true}});
-    modifier(exemples.bordereau(u"05/03/2026"_s, amal), {{"brut", 500}, {"primes", 800}, {"Commission", 10}});
+    Exemples::changer(exercice.Bordereaux, exemples.bordereau(u"04/03/2026"_s, amal),
+                      {{"Num_Chalutier", QVariant()}, {"brut", 500}, {"flag_f", true}});
+    Exemples::changer(exercice.Bordereaux, exemples.bordereau(u"05/03/2026"_s, amal),
+                      {{"brut", 500}, {"primes", 800}, {"Commission", 10}});
 
     RegistreBordereaux registre(exercice, Porte::Registre);
     registre.LoadRegister();
     const QString vide;
     ASSERT_EQ(registre.nbLignes(), 4);
-    EXPECT_EQ(ligne(registre, 0),
+    EXPECT_EQ(ligneDe(registre, 0, nbColonnesBordereau),
               QStringList({u"1"_s, u"02/03/2026"_s, u"NADJET "_s, u"120"_s, u"123 456.50 "_s, u"1 000.00 "_s,
                            u"18 368.48 "_s, u"12.30 "_s, u"98 765.00 "_s, u"OUI"_s, u"7"_s}));
-    EXPECT_EQ(ligne(registre, 1),
+    EXPECT_EQ(ligneDe(registre, 1, nbColonnesBordereau),
               QStringList({u"2"_s, u"03/03/2026"_s, u" "_s, vide, vide, vide, vide, vide, vide, vide, vide}));
-    EXPECT_EQ(ligne(registre, 2),
+    EXPECT_EQ(ligneDe(registre, 2, nbColonnesBordereau),
               QStringList({u"3"_s, u"04/03/2026"_s, vide, vide, vide, vide, vide, vide, vide, vide, vide}));
     EXPECT_EQ(registre.cellule(3, ColBordCommission), vide) << "a commission below zero is not shown";
 }
@@ -94,7 +72,7 @@ TEST_F(Registre, la_liste_va_par_date_et_le_filtre_par_numero)
     const qint64 debutMars = exemples.bordereau(u"01/03/2026"_s, amal);
     RegistreBordereaux registre(exercice, Porte::Registre);
     registre.LoadRegister();
-    EXPECT_EQ(nums(registre), QList<qint64>({fevrier, debutMars, mars}));
+    EXPECT_EQ(numsDe(registre), QList<qint64>({fevrier, debutMars, mars}));
     EXPECT_EQ(registre.titre1(), u"Ensemble des Bordereaux"_s);
     EXPECT_EQ(registre.titre2(), u"Ensemble des embarcations"_s);
 
@@ -120,14 +98,14 @@ TEST_F(Registre, la_liste_va_par_date_et_le_filtre_par_numero)
     };
     for (const auto& c : cas) {
         EXPECT_FALSE(registre.filtrer(c.filtre));
-        EXPECT_EQ(nums(registre), c.lignes) << c.titre1.toStdString();
+        EXPECT_EQ(numsDe(registre), c.lignes) << c.titre1.toStdString();
         EXPECT_EQ(registre.titre1(), c.titre1);
         EXPECT_EQ(registre.titre2(), c.titre2);
         EXPECT_EQ(registre.cadreNouveau(u"11/03/2026"_s).numero, QString::number(c.lignes.size() + 1))
             << "the number proposed counts the rows listed";
     }
     registre.LoadRegister();
-    EXPECT_EQ(nums(registre), QList<qint64>({mars})) << "the filter stays for the next loading";
+    EXPECT_EQ(numsDe(registre), QList<qint64>({mars})) << "the filter stays for the next loading";
 }
 
 TEST_F(Registre, un_filtre_refuse_laisse_la_liste_comme_elle_est)
@@ -211,8 +189,8 @@ TEST_F(Registre, facture_ou_decompte_un_bordereau_ne_se_rouvre_ni_ne_se_supprime
     } const cas[] = {
         {true, 0, u"Bordereau facturé"_s}, {true, 3, u"Bordereau facturé"_s}, {false, 3, u"Bordereau décompté"_s}};
     for (const auto& c : cas)
-        modifier(exemples.bordereau(u"10/03/2026"_s, nadjet),
-                 {{"flag_f", c.flag_f}, {"ordre_decompte", c.ordre_decompte}});
+        Exemples::changer(exercice.Bordereaux, exemples.bordereau(u"10/03/2026"_s, nadjet),
+                          {{"flag_f", c.flag_f}, {"ordre_decompte", c.ordre_decompte}});
     RegistreBordereaux registre(exercice, Porte::Registre);
     registre.LoadRegister();
     for (int rang = 0; rang < 3; ++rang) {
@@ -237,7 +215,7 @@ TEST_F(Registre, supprimer_emporte_le_bordereau_et_ses_lignes_ouvertes)
               (Refus{u"Confirmer supression de la ligne N° 2"_s, u"Confirmation"_s, Icone::Question}));
     EXPECT_EQ(registre.supprimer(1), (Refus{u"Bordereau supprimé avec succès"_s, u"TALOR"_s, Icone::Information}));
     registre.LoadRegister();
-    EXPECT_EQ(nums(registre), QList<qint64>({garde}));
+    EXPECT_EQ(numsDe(registre), QList<qint64>({garde}));
     EXPECT_EQ(exercice.L_Vente.recordCount(), 2);
     EXPECT_TRUE(exercice.L_Vente.seek(ligneGardee));
     EXPECT_TRUE(exercice.L_Vente.seek(ligneFacturee));
@@ -258,7 +236,8 @@ TEST_F(Registre, une_panne_pendant_la_suppression_laisse_tout)
 TEST_F(Registre, l_edition_met_ses_titres_sur_le_papier_et_le_registre_non)
 {
     const qint64 num = exemples.bordereau(u"10/03/2026"_s, nadjet);
-    modifier(num, {{"brut", 12001000}, {"primes", 1000}, {"Commission", 15}, {"MT_Commission", 1800150}});
+    Exemples::changer(exercice.Bordereaux, num,
+                      {{"brut", 12001000}, {"primes", 1000}, {"Commission", 15}, {"MT_Commission", 1800150}});
     RegistreBordereaux registre(exercice, Porte::Registre);
     registre.LoadRegister();
     EXPECT_EQ(registre.formule(0), u"{L_Vente.num_bordereau} = "_s + QString::number(num));

@@ -59,18 +59,13 @@ protected:
         bordereau(u"14/06/2026"_s, bateaux[2], {{"ordre_decompte", 3}});
     }
 
-    static QString texte(QWidget& d, const QString& nom) { return control<QLineEdit>(d, nom)->text(); }
-    static QString etiquette(QWidget& d, const QString& nom) { return control<QLabel>(d, nom)->text(); }
     static Grid* grille(QWidget& d) { return control<Grid>(d, u"Grid1"_s); }
-    static QString focus(QWidget& d) { return d.focusWidget() ? d.focusWidget()->objectName() : QString(); }
-    static bool visible(QWidget& d, const QString& nom) { return control(d, nom)->isVisible(); }
-
     /// Indexes of the commands that can be seen.
     static QList<int> commandes(QWidget& d, int nombre = 6)
     {
         QList<int> montrees;
         for (int i = 0; i < nombre; ++i)
-            if (visible(d, u"Crecettes(%1)"_s.arg(i)))
+            if (isShown(d, u"Crecettes(%1)"_s.arg(i)))
                 montrees.append(i);
         return montrees;
     }
@@ -115,10 +110,10 @@ TEST_F(FBord, la_liste_a_onze_colonnes_et_se_tient_sur_la_derniere_ligne)
     }
     EXPECT_EQ(grille(d)->text(0, 2), u"Étoile de Ténès "_s);
     EXPECT_EQ(grille(d)->currentRow(), 2);
-    EXPECT_EQ(focus(d), u"Grid1"_s);
+    EXPECT_EQ(focusOf(d), u"Grid1"_s);
     EXPECT_EQ(commandes(d), toutes);
-    EXPECT_EQ(etiquette(d, u"Label4(0)"_s), u"Ensemble des Bordereaux"_s);
-    EXPECT_EQ(etiquette(d, u"Label4(1)"_s), u"Ensemble des embarcations"_s);
+    EXPECT_EQ(textOf(d, u"Label4(0)"_s), u"Ensemble des Bordereaux"_s);
+    EXPECT_EQ(textOf(d, u"Label4(1)"_s), u"Ensemble des embarcations"_s);
     press(d, Qt::Key_Escape);
     EXPECT_FALSE(d.isVisible());
 }
@@ -130,13 +125,13 @@ TEST_F(FBord, les_fleches_se_cachent_aux_bouts_et_sonnent_si_les_sons_sont_voulu
     services::sound::setRecorder([&](const QString&) { ++bips; });
     F_Bord d(e, saisie);
     show(d);
-    EXPECT_FALSE(visible(d, u"Image2(4)"_s));
+    EXPECT_FALSE(isShown(d, u"Image2(4)"_s));
     click(d, u"Image2(3)"_s);
     EXPECT_EQ(grille(d)->currentRow(), 1);
     EXPECT_EQ(bips, 0);
     e.EffetSonore = 1;
     click(d, u"Image2(3)"_s);
-    EXPECT_FALSE(visible(d, u"Image2(3)"_s));
+    EXPECT_FALSE(isShown(d, u"Image2(3)"_s));
     click(d, u"Image2(4)"_s);
     EXPECT_EQ(grille(d)->currentRow(), 1);
     EXPECT_EQ(bips, 2);
@@ -146,19 +141,19 @@ TEST_F(FBord, un_exercice_vide_s_ouvre_sur_le_bordereau_1_et_l_abandon_ne_laisse
 {
     F_Bord d(e, saisie);
     show(d);
-    EXPECT_EQ(etiquette(d, u"Label2(12)"_s), u"Nouveau bordereau"_s);
-    EXPECT_EQ(texte(d, numero), u"1"_s);
-    EXPECT_EQ(texte(d, date), u"15/06/2026"_s);
-    EXPECT_EQ(control<QComboBox>(d, bateau)->currentText(), u"AMAL"_s);
-    EXPECT_EQ(focus(d), date);
+    EXPECT_EQ(textOf(d, u"Label2(12)"_s), u"Nouveau bordereau"_s);
+    EXPECT_EQ(textOf(d, numero), u"1"_s);
+    EXPECT_EQ(textOf(d, date), u"15/06/2026"_s);
+    EXPECT_EQ(textOf(d, bateau), u"AMAL"_s);
+    EXPECT_EQ(focusOf(d), date);
     EXPECT_EQ(commandes(d), quitterSeul);
     press(d, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(demandes.size(), 1);
-    EXPECT_TRUE(visible(d, u"SSFrame1"_s)) << "nothing was sold: the next bordereau is still the first";
+    EXPECT_TRUE(isShown(d, u"SSFrame1"_s)) << "nothing was sold: the next bordereau is still the first";
     press(d, Qt::Key_Escape);
-    EXPECT_FALSE(visible(d, u"SSFrame1"_s));
+    EXPECT_FALSE(isShown(d, u"SSFrame1"_s));
     EXPECT_EQ(commandes(d), quitterSeul);
-    EXPECT_EQ(focus(d), u"Crecettes(5)"_s);
+    EXPECT_EQ(focusOf(d), u"Crecettes(5)"_s);
     EXPECT_EQ(e.Bordereaux.recordCount(), 0);
     press(d, Qt::Key_Escape);
     EXPECT_FALSE(d.isVisible());
@@ -174,7 +169,7 @@ TEST_F(FBord, trois_touches_commencent_un_bordereau_du_jour)
     EXPECT_EQ(commandes(d), quitterSeul);
     EXPECT_FALSE(grille(d)->isEnabled());
     press(d, Qt::Key_Return);
-    EXPECT_EQ(focus(d), bateau);
+    EXPECT_EQ(focusOf(d), bateau);
     press(d, Qt::Key_Return);
     ASSERT_EQ(demandes.size(), 1);
     EXPECT_EQ(demandes[0].mode, ModeBordereau::Nouveau);
@@ -196,7 +191,7 @@ TEST_F(FBord, trois_touches_commencent_un_bordereau_du_jour)
     for (const auto& c : cas) {
         press(d, Qt::Key_Insert);
         press(d, Qt::Key_Up);
-        EXPECT_EQ(focus(d), numero);
+        EXPECT_EQ(focusOf(d), numero);
         type(d.focusWidget(), u"77"_s);
         press(d, Qt::Key_Return);
         press(d, Qt::Key_Return);
@@ -246,7 +241,7 @@ TEST_F(FBord, un_bordereau_se_commence_au_pointeur_seul)
     click(d, u"Image1(1)"_s);
     EXPECT_EQ(demandes.size(), 1);
     EXPECT_EQ(commandes(d), toutes);
-    EXPECT_EQ(focus(d), u"Grid1"_s);
+    EXPECT_EQ(focusOf(d), u"Grid1"_s);
     click(d, u"Crecettes(5)"_s);
     EXPECT_FALSE(d.isVisible());
 }
@@ -263,14 +258,14 @@ TEST_F(FBord, une_date_fausse_est_refusee_et_se_tape_a_nouveau)
         press(d, Qt::Key_Return, Qt::ControlModifier);
         EXPECT_EQ(messages.shown().first().icon, controls::MessageIcon::Warning);
     }
-    EXPECT_EQ(focus(d), date);
+    EXPECT_EQ(focusOf(d), date);
     EXPECT_TRUE(demandes.isEmpty());
     type(d, date, u"31062026"_s);
     press(d, Qt::Key_Return);
-    EXPECT_EQ(texte(d, date), QString()) << "a day that does not exist is blanked on leaving";
+    EXPECT_EQ(textOf(d, date), QString()) << "a day that does not exist is blanked on leaving";
     type(d, date, u"30062026"_s);
     press(d, Qt::Key_Backspace);
-    EXPECT_EQ(texte(d, date), QString()) << "backspace clears the date whole";
+    EXPECT_EQ(textOf(d, date), QString()) << "backspace clears the date whole";
     type(d, date, u"01062026"_s);
     click(d, ok);
     ASSERT_EQ(demandes.size(), 1);
@@ -284,13 +279,13 @@ TEST_F(FBord, un_bordereau_ouvert_se_rouvre_sous_ses_donnees_fermees)
     show(d);
     press(d, Qt::Key_Home);
     press(d, Qt::Key_F2);
-    EXPECT_EQ(etiquette(d, u"Label2(12)"_s), u"Ancien bordereau"_s);
-    EXPECT_EQ(texte(d, date), u"10/05/2026"_s);
-    EXPECT_EQ(control<QComboBox>(d, bateau)->currentText(), u"Étoile de Ténès"_s);
+    EXPECT_EQ(textOf(d, u"Label2(12)"_s), u"Ancien bordereau"_s);
+    EXPECT_EQ(textOf(d, date), u"10/05/2026"_s);
+    EXPECT_EQ(textOf(d, bateau), u"Étoile de Ténès"_s);
     for (const QString& champ : {numero, date, bateau})
         EXPECT_FALSE(control(d, champ)->isEnabled()) << champ.toStdString();
     for (const QString& bouton : {u"Image2(0)"_s, u"Image2(1)"_s})
-        EXPECT_FALSE(visible(d, bouton));
+        EXPECT_FALSE(isShown(d, bouton));
     press(d, Qt::Key_Return);
     ASSERT_EQ(demandes.size(), 1);
     EXPECT_EQ(demandes[0].mode, ModeBordereau::Existant);
@@ -303,7 +298,7 @@ TEST_F(FBord, un_bordereau_ouvert_se_rouvre_sous_ses_donnees_fermees)
     grille(d)->selectRow(0);
     QTest::mouseDClick(grille(d)->viewport(), Qt::LeftButton, {},
                        grille(d)->visualRect(grille(d)->currentIndex()).center());
-    EXPECT_TRUE(visible(d, u"SSFrame1"_s));
+    EXPECT_TRUE(isShown(d, u"SSFrame1"_s));
 }
 
 TEST_F(FBord, facture_ou_decompte_rien_ne_se_rouvre_ni_ne_se_supprime)
@@ -322,7 +317,7 @@ TEST_F(FBord, facture_ou_decompte_rien_ne_se_rouvre_ni_ne_se_supprime)
         click(d, u"Crecettes(2)"_s);
         EXPECT_EQ(messages.shown().first().icon, controls::MessageIcon::Stop);
     }
-    EXPECT_FALSE(visible(d, u"SSFrame1"_s));
+    EXPECT_FALSE(isShown(d, u"SSFrame1"_s));
     EXPECT_EQ(e.Bordereaux.recordCount(), 3);
 }
 
@@ -345,7 +340,7 @@ TEST_F(FBord, supprimer_se_confirme_et_la_derniere_ligne_ouvre_le_cadre)
     ExpectMessages messages{{question.arg(1), Answer::Yes}, {fait}};
     press(d, Qt::Key_Delete);
     EXPECT_EQ(e.Bordereaux.recordCount(), 0);
-    EXPECT_EQ(texte(d, numero), u"1"_s);
+    EXPECT_EQ(textOf(d, numero), u"1"_s);
     EXPECT_EQ(commandes(d), quitterSeul);
 }
 
@@ -356,31 +351,31 @@ TEST_F(FBord, le_filtre_se_donne_au_clavier_et_baisse_le_numero_propose)
     show(d);
     press(d, Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(commandes(d), quitterSeul);
-    EXPECT_EQ(control<QComboBox>(d, u"Combo21"_s)->currentText(), u" Ensemble"_s);
+    EXPECT_EQ(textOf(d, u"Combo21"_s), u" Ensemble"_s);
     EXPECT_EQ(control<QComboBox>(d, u"Combo1"_s)->itemText(0), u"Janvier"_s);
-    EXPECT_EQ(texte(d, u"Text21(1)"_s), u"15/06/2026"_s);
-    EXPECT_EQ(texte(d, u"Text21(2)"_s), u"15/06/2026"_s);
+    EXPECT_EQ(textOf(d, u"Text21(1)"_s), u"15/06/2026"_s);
+    EXPECT_EQ(textOf(d, u"Text21(2)"_s), u"15/06/2026"_s);
     type(d.focusWidget(), u"3"_s);
     press(d, Qt::Key_Return);
     press(d, Qt::Key_Return); // the month of today
     EXPECT_EQ(grille(d)->rowCount(), 1);
-    EXPECT_EQ(etiquette(d, u"Label4(0)"_s), u"Bordereaux du mois de Juin"_s);
-    EXPECT_EQ(etiquette(d, u"Label4(1)"_s), u"Chalutier   ----> NADJET"_s);
-    EXPECT_EQ(focus(d), u"Grid1"_s);
+    EXPECT_EQ(textOf(d, u"Label4(0)"_s), u"Bordereaux du mois de Juin"_s);
+    EXPECT_EQ(textOf(d, u"Label4(1)"_s), u"Chalutier   ----> NADJET"_s);
+    EXPECT_EQ(focusOf(d), u"Grid1"_s);
     press(d, Qt::Key_Insert);
-    EXPECT_EQ(texte(d, numero), u"2"_s);
+    EXPECT_EQ(textOf(d, numero), u"2"_s);
     press(d, Qt::Key_Escape);
 
     press(d, Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(control<QComboBox>(d, u"Combo21"_s)->currentText(), u"NADJET"_s) << "what was chosen last stays";
+    EXPECT_EQ(textOf(d, u"Combo21"_s), u"NADJET"_s) << "what was chosen last stays";
     press(d, Qt::Key_End);
     type(d, u"Text21(1)"_s, u"10052026"_s);
     press(d, Qt::Key_Return);
     type(d.focusWidget(), u"12062026"_s);
     press(d, Qt::Key_Return);
     EXPECT_EQ(grille(d)->rowCount(), 2);
-    EXPECT_EQ(etiquette(d, u"Label4(0)"_s), u"Période du 10/05/2026  au 12/06/2026"_s);
-    EXPECT_EQ(etiquette(d, u"Label4(1)"_s), u"Ensemble des Embarcations"_s);
+    EXPECT_EQ(textOf(d, u"Label4(0)"_s), u"Période du 10/05/2026  au 12/06/2026"_s);
+    EXPECT_EQ(textOf(d, u"Label4(1)"_s), u"Ensemble des Embarcations"_s);
     press(d, Qt::Key_F, Qt::ControlModifier);
     press(d, Qt::Key_Escape);
     EXPECT_EQ(grille(d)->rowCount(), 2);
@@ -410,17 +405,17 @@ TEST_F(FBord, le_filtre_se_donne_au_pointeur_et_ses_refus_le_laissent_ouvert)
         click(d, u"Image21(1)"_s); // AMAL in May
         EXPECT_EQ(messages.shown().first().icon, controls::MessageIcon::Information);
     }
-    EXPECT_EQ(focus(d), u"Combo1"_s);
+    EXPECT_EQ(focusOf(d), u"Combo1"_s);
     {
         ExpectMessages messages{{u"Saisie incomplète"_s, u"ATTENTION"_s}, {u"Dates inversées"_s, u"ATTENTION"_s}};
         type(d, u"Text21(2)"_s, u"1405"_s);
         click(d, u"Image21(3)"_s);
-        EXPECT_EQ(focus(d), u"Text21(2)"_s);
+        EXPECT_EQ(focusOf(d), u"Text21(2)"_s);
         type(d, u"Text21(2)"_s, u"14062026"_s);
         click(d, u"Image21(3)"_s);
-        EXPECT_EQ(focus(d), u"Text21(1)"_s);
+        EXPECT_EQ(focusOf(d), u"Text21(1)"_s);
     }
-    EXPECT_TRUE(visible(d, u"SSFrame2"_s));
+    EXPECT_TRUE(isShown(d, u"SSFrame2"_s));
     EXPECT_EQ(grille(d)->rowCount(), 3);
     {
         const auto calendrier = whenOpened<Q_Date_2>([](Q_Date_2& c) {
@@ -435,7 +430,7 @@ TEST_F(FBord, le_filtre_se_donne_au_pointeur_et_ses_refus_le_laissent_ouvert)
     for (const QString& annuler : {u"Image21(2)"_s, u"Image21(4)"_s}) {
         click(d, u"Crecettes(4)"_s);
         click(d, annuler);
-        EXPECT_FALSE(visible(d, u"SSFrame2"_s));
+        EXPECT_FALSE(isShown(d, u"SSFrame2"_s));
     }
 }
 
@@ -485,7 +480,7 @@ TEST_F(FBord, l_edition_consulte_et_ne_change_rien)
     click(d, u"Crecettes(0)"_s);
     press(d, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(grille(d)->rowCount(), 2);
-    EXPECT_EQ(etiquette(d, u"Label4(0)"_s), u"Bordereaux du mois de Juin"_s);
+    EXPECT_EQ(textOf(d, u"Label4(0)"_s), u"Bordereaux du mois de Juin"_s);
     click(d, u"Crecettes(2)"_s);
     EXPECT_FALSE(d.isVisible());
 }
@@ -514,5 +509,5 @@ TEST_F(FBord, vingt_mille_bordereaux_s_ouvrent_et_defilent)
     press(d, Qt::Key_Home);
     EXPECT_EQ(grille(d)->text(grille(d)->currentRow(), 0), u"1"_s);
     press(d, Qt::Key_Insert);
-    EXPECT_EQ(texte(d, numero), u"20001"_s);
+    EXPECT_EQ(textOf(d, numero), u"20001"_s);
 }

@@ -81,29 +81,9 @@ protected:
     qint64 nadjet, zoulim, amari, benali, sardine, crevette;
 };
 
-QString label(j_vente& d, const QString& nom)
-{
-    return control<QLabel>(d, nom)->text();
-}
-
-QString champ(j_vente& d, const QString& nom)
-{
-    return control<QLineEdit>(d, nom)->text();
-}
-
-QString enMain(j_vente& d)
-{
-    return d.focusWidget() ? d.focusWidget()->objectName() : QString();
-}
-
 controls::Grid* lignes(j_vente& d)
 {
     return control<controls::Grid>(d, u"Grid1"_s);
-}
-
-bool visible(j_vente& d, const QString& nom)
-{
-    return control(d, nom)->isVisible();
 }
 
 /// Types into the field that has the focus, then Enter.
@@ -119,19 +99,6 @@ void entrerLigne(j_vente& d, const QStringList& cinq)
         entrer(d, texte);
 }
 
-void toucherLigne(j_vente& d, const QString& grille, int rang)
-{
-    auto* liste = control<controls::Grid>(d, grille);
-    const QRect place = liste->visualRect(liste->model()->index(rang, 1));
-    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, place.center());
-}
-
-void toucherPave(j_vente& d, const QString& famille, const QString& touches)
-{
-    for (const QChar c : touches)
-        click(d, u"%1(%2)"_s.arg(famille).arg(c == u'.' ? 10 : c.digitValue()));
-}
-
 void quitter(j_vente& d)
 {
     click(d, u"Crecettes(3)"_s);
@@ -142,30 +109,30 @@ void quitter(j_vente& d)
 TEST_F(j_venteTest, une_ligne_se_saisit_par_cinq_nombres_et_cinq_fois_Entree)
 {
     saisir(demande(), [&](j_vente& d) {
-        EXPECT_EQ(label(d, u"Label1(10)"_s), u"Bordereau N° : 12\n Du : 15/06/2026\nEmbarcation : NADJET"_s);
-        EXPECT_EQ(label(d, u"Label1(8)"_s), u"Nouveau Bordereau"_s);
-        EXPECT_EQ(label(d, u"SSPanel2"_s), u"NOUVEL ACHAT"_s); // without a line it opens on entry
-        EXPECT_EQ(enMain(d), u"Text1(0)"_s);
+        EXPECT_EQ(textOf(d, u"Label1(10)"_s), u"Bordereau N° : 12\n Du : 15/06/2026\nEmbarcation : NADJET"_s);
+        EXPECT_EQ(textOf(d, u"Label1(8)"_s), u"Nouveau Bordereau"_s);
+        EXPECT_EQ(textOf(d, u"SSPanel2"_s), u"NOUVEL ACHAT"_s); // without a line it opens on entry
+        EXPECT_EQ(focusOf(d), u"Text1(0)"_s);
         {
             ExpectMessages messages{acquise.arg(1)};
             entrerLigne(d, {u"2"_s, u"1"_s, u"10"_s, u"12,5"_s, u"480"_s});
             EXPECT_EQ(messages.shown()[0].title, QString());
         }
         EXPECT_EQ(ligne(1), (QVariantList{amari, sardine, 10, 12.5, 480.0, 6000.0})) << "on disk when it is announced";
-        EXPECT_EQ(enMain(d), u"Text1(0)"_s);
-        EXPECT_EQ(champ(d, u"Text1(0)"_s), u"2"_s) << "client and fish stay, quantities go";
-        EXPECT_EQ(champ(d, u"Text1(2)"_s) + champ(d, u"Text1(3)"_s) + champ(d, u"Text1(4)"_s), QString());
-        EXPECT_EQ(label(d, u"Label2(2)"_s), QString());
+        EXPECT_EQ(focusOf(d), u"Text1(0)"_s);
+        EXPECT_EQ(textOf(d, u"Text1(0)"_s), u"2"_s) << "client and fish stay, quantities go";
+        EXPECT_EQ(textOf(d, u"Text1(2)"_s) + textOf(d, u"Text1(3)"_s) + textOf(d, u"Text1(4)"_s), QString());
+        EXPECT_EQ(textOf(d, u"Label2(2)"_s), QString());
         EXPECT_EQ(lignes(d)->text(0, ColLigneClient), u"AMARI  Said "_s);
 
         ExpectMessages messages{acquise.arg(2)};
         entrerLigne(d, {u"3"_s, u"2"_s, u"4"_s, u""_s, u"1000"_s});
-        EXPECT_EQ(label(d, u"Label1(7)"_s), u"14"_s);
-        EXPECT_EQ(label(d, u"Label2(20)"_s), u"10 000.00 "_s);
-        EXPECT_EQ(label(d, u"Label2(21)"_s), u"1 500 .00 "_s);
-        EXPECT_EQ(label(d, u"Label2(23)"_s), u"8 500 .00 "_s);
+        EXPECT_EQ(textOf(d, u"Label1(7)"_s), u"14"_s);
+        EXPECT_EQ(textOf(d, u"Label2(20)"_s), u"10 000.00 "_s);
+        EXPECT_EQ(textOf(d, u"Label2(21)"_s), u"1 500 .00 "_s);
+        EXPECT_EQ(textOf(d, u"Label2(23)"_s), u"8 500 .00 "_s);
         press(d, Qt::Key_Escape); // back to the lines
-        EXPECT_EQ(enMain(d), u"Grid1"_s);
+        EXPECT_EQ(focusOf(d), u"Grid1"_s);
         press(d, Qt::Key_Escape); // and out
     });
     EXPECT_EQ(ecrit("brut"), 10000.0);
@@ -182,9 +149,9 @@ TEST_F(j_venteTest, Entree_ferme_l_annonce_et_rend_la_main_au_client)
         });
         entrerLigne(d, {u"2"_s, u"1"_s, u"10"_s, u""_s, u"480"_s});
         ASSERT_TRUE(QTest::qWaitForWindowActive(&d));
-        EXPECT_EQ(enMain(d), u"Text1(0)"_s);
+        EXPECT_EQ(focusOf(d), u"Text1(0)"_s);
         entrer(d, u"3"_s);
-        EXPECT_EQ(label(d, u"Label3(0)"_s), u"BENALI  Omar"_s);
+        EXPECT_EQ(textOf(d, u"Label3(0)"_s), u"BENALI  Omar"_s);
         press(d, Qt::Key_Escape);
         quitter(d);
     });
@@ -209,7 +176,7 @@ TEST_F(j_venteTest, ce_qui_manque_a_une_ligne_est_dit_et_rien_n_est_perdu)
                                 {u"Numéro omis"_s, QString()},
                                 {u"N° de poisson omis "_s, u"ATTENTION"_s}};
         entrerLigne(d, {u"2"_s, u"1"_s, u"10"_s, u""_s, u""_s});
-        EXPECT_EQ(champ(d, u"Text1(2)"_s), u"10"_s);
+        EXPECT_EQ(textOf(d, u"Text1(2)"_s), u"10"_s);
         control<QLineEdit>(d, u"Text1(2)"_s)->clear();
         type(d, u"Text1(4)"_s, u"480"_s);
         click(d, u"Image1(0)"_s);
@@ -219,7 +186,7 @@ TEST_F(j_venteTest, ce_qui_manque_a_une_ligne_est_dit_et_rien_n_est_perdu)
             numero->setFocus();
             numero->clear();
             control(d, u"Text1(4)"_s)->setFocus(); // told on leaving, and the focus goes on all the same
-            EXPECT_EQ(enMain(d), u"Text1(4)"_s);
+            EXPECT_EQ(focusOf(d), u"Text1(4)"_s);
             click(d, u"Image1(0)"_s);
         }
         press(d, Qt::Key_Escape);
@@ -233,11 +200,11 @@ TEST_F(j_venteTest, apres_un_numero_inconnu_la_ligne_garde_le_choix_precedent)
     saisir(demande(), [&](j_vente& d) {
         ExpectMessages messages{{u"Numéro d'ordre introuvable"_s, u"ATTENTION"_s}, acquise.arg(1)};
         entrer(d, u"3"_s);
-        EXPECT_EQ(label(d, u"Label3(0)"_s), u"BENALI  Omar"_s);
+        EXPECT_EQ(textOf(d, u"Label3(0)"_s), u"BENALI  Omar"_s);
         control(d, u"Text1(0)"_s)->setFocus();
         entrer(d, u"77"_s);
-        EXPECT_EQ(enMain(d), u"Text1(1)"_s);
-        EXPECT_EQ(label(d, u"Label3(0)"_s), u"BENALI  Omar"_s);
+        EXPECT_EQ(focusOf(d), u"Text1(1)"_s);
+        EXPECT_EQ(textOf(d, u"Label3(0)"_s), u"BENALI  Omar"_s);
         entrerLigne(d, {u"1"_s, u"1"_s, u""_s, u"10"_s});
         EXPECT_EQ(ligne(1)[0], benali);
         press(d, Qt::Key_Escape);
@@ -304,7 +271,7 @@ TEST_F(j_venteTest, les_fleches_menent_d_un_champ_a_l_autre)
             }
             control(d, c.champ)->setFocus();
             press(d, c.touche);
-            EXPECT_EQ(enMain(d), c.apres) << c.champ.toStdString() << " " << c.touche;
+            EXPECT_EQ(focusOf(d), c.apres) << c.champ.toStdString() << " " << c.touche;
         }
         press(d, Qt::Key_Escape);
         press(d, Qt::Key_Escape);
@@ -318,32 +285,32 @@ TEST_F(j_venteTest, une_ligne_se_saisit_au_doigt)
     QStringList sons;
     const auto avant = services::sound::setRecorder([&](const QString& son) { sons << QFileInfo(son).fileName(); });
     saisir(demande(), [&](j_vente& d) {
-        toucherLigne(d, u"Grid2(1)"_s, 1); // by name: AMARI, BENALI, ZOULIM
+        clickRow(d, u"Grid2(1)"_s, 1); // by name: AMARI, BENALI, ZOULIM
         EXPECT_EQ(control<QTabWidget>(d, u"SSTab1"_s)->currentIndex(), 1) << "after the client, the fish";
-        toucherLigne(d, u"Grid2(0)"_s, 1);
-        EXPECT_EQ(control<QComboBox>(d, u"Combo1(0)"_s)->currentText(), u"BENALI  Omar"_s);
-        EXPECT_EQ(champ(d, u"Text1(1)"_s), u"2"_s);
-        EXPECT_EQ(enMain(d), u"Text1(2)"_s);
+        clickRow(d, u"Grid2(0)"_s, 1);
+        EXPECT_EQ(textOf(d, u"Combo1(0)"_s), u"BENALI  Omar"_s);
+        EXPECT_EQ(textOf(d, u"Text1(1)"_s), u"2"_s);
+        EXPECT_EQ(focusOf(d), u"Text1(2)"_s);
 
         click(d, u"Image1(4)"_s);
         EXPECT_FALSE(control(d, u"SSFrame1"_s)->isEnabled());
-        EXPECT_EQ(label(d, u"Label5(0)"_s) + label(d, u"Label5(1)"_s), u"BENALI  OmarCREVETTE"_s);
+        EXPECT_EQ(textOf(d, u"Label5(0)"_s) + textOf(d, u"Label5(1)"_s), u"BENALI  OmarCREVETTE"_s);
         EXPECT_FALSE(control(d, u"SSCommand11(10)"_s)->isEnabled()) << "crates are whole";
-        toucherPave(d, u"SSCommand11"_s, u"129"_s);
+        clickPad(d, u"SSCommand11"_s, u"129"_s);
         click(d, u"Image22(0)"_s); // backspace
         click(d, u"Text22(1)"_s);
-        EXPECT_EQ(label(d, u"Label11"_s), QString());
-        toucherPave(d, u"SSCommand11"_s, u"7.5.1"_s);
-        EXPECT_EQ(champ(d, u"Text22(1)"_s), u"7.51"_s) << "a second point is refused";
+        EXPECT_EQ(textOf(d, u"Label11"_s), QString());
+        clickPad(d, u"SSCommand11"_s, u"7.5.1"_s);
+        EXPECT_EQ(textOf(d, u"Text22(1)"_s), u"7.51"_s) << "a second point is refused";
         click(d, u"Text22(2)"_s);
-        toucherPave(d, u"SSCommand11"_s, u"1234567890123"_s);
-        EXPECT_EQ(label(d, u"Label11"_s), u"123456789012"_s) << "twelve characters, no more";
+        clickPad(d, u"SSCommand11"_s, u"1234567890123"_s);
+        EXPECT_EQ(textOf(d, u"Label11"_s), u"123456789012"_s) << "twelve characters, no more";
         for (int i = 0; i < 9; ++i)
             click(d, u"Image22(0)"_s);
         EXPECT_TRUE(sons.isEmpty());
         click(d, u"Image22(1)"_s);
         EXPECT_EQ(sons, QStringList{QString()});
-        EXPECT_EQ(champ(d, u"Text1(2)"_s), u"12"_s);
+        EXPECT_EQ(textOf(d, u"Text1(2)"_s), u"12"_s);
 
         sons.clear();
         ExpectMessages messages{acquise.arg(1)};
@@ -367,11 +334,11 @@ TEST_F(j_venteTest, le_second_appui_d_un_double_clic_sur_un_client_ne_choisit_pa
                            place); // of which the first press is no second one
         QMouseEvent second(QEvent::MouseButtonDblClick, place, poissons->viewport()->mapToGlobal(place), Qt::LeftButton,
                            Qt::LeftButton, {});
-        toucherLigne(d, u"Grid2(0)"_s, 0);
+        clickRow(d, u"Grid2(0)"_s, 0);
         control(d, u"Text1(0)"_s)->setFocus();
         QTest::mouseClick(clients->viewport(), Qt::LeftButton, {}, place);
         QCoreApplication::sendEvent(poissons->viewport(), &second);
-        EXPECT_EQ(label(d, u"Label3(0)"_s) + label(d, u"Label3(1)"_s), u"BENALI  OmarSARDINE"_s);
+        EXPECT_EQ(textOf(d, u"Label3(0)"_s) + textOf(d, u"Label3(1)"_s), u"BENALI  OmarSARDINE"_s);
         press(d, Qt::Key_Escape);
         quitter(d);
     });
@@ -409,16 +376,16 @@ TEST_F(j_venteTest, le_pave_demande_le_client_et_le_poisson_et_se_quitte_sans_ri
             });
             click(d, u"Image22(3)"_s);
         }
-        EXPECT_EQ(label(d, u"Label5(0)"_s), u"ZOULIM  Ali"_s);
+        EXPECT_EQ(textOf(d, u"Label5(0)"_s), u"ZOULIM  Ali"_s);
         {
             const auto poisson = whenOpened<Q_Poisson>([](Q_Poisson& q) { press(q, Qt::Key_Escape); });
             click(d, u"Image22(2)"_s);
         }
-        EXPECT_EQ(label(d, u"Label5(1)"_s), u"SARDINE"_s);
-        toucherPave(d, u"SSCommand11"_s, u"5"_s);
+        EXPECT_EQ(textOf(d, u"Label5(1)"_s), u"SARDINE"_s);
+        clickPad(d, u"SSCommand11"_s, u"5"_s);
         click(d, u"Image22(4)"_s);
-        EXPECT_EQ(champ(d, u"Text1(0)"_s), u"1"_s);
-        EXPECT_EQ(champ(d, u"Text1(2)"_s), QString());
+        EXPECT_EQ(textOf(d, u"Text1(0)"_s), u"1"_s);
+        EXPECT_EQ(textOf(d, u"Text1(2)"_s), QString());
         EXPECT_TRUE(control(d, u"SSTab1"_s)->isEnabled());
         press(d, Qt::Key_Escape);
         quitter(d);
@@ -429,19 +396,19 @@ TEST_F(j_venteTest, la_correction_reecrit_la_premiere_ligne_quelle_que_soit_la_s
 {
     const qint64 num = bordereau(3);
     saisir(demande(num), [&](j_vente& d) {
-        EXPECT_EQ(label(d, u"Label1(8)"_s), u"Correction du bordereau"_s);
+        EXPECT_EQ(textOf(d, u"Label1(8)"_s), u"Correction du bordereau"_s);
         press(d, Qt::Key_Down);
         press(d, Qt::Key_F2);
-        EXPECT_EQ(label(d, u"SSPanel2"_s), u"MODIFICATION"_s);
-        EXPECT_EQ(champ(d, u"Text1(0)"_s), u"2"_s);
-        EXPECT_EQ(champ(d, u"Text1(2)"_s), u"2"_s);
-        EXPECT_EQ(champ(d, u"Text1(4)"_s), u"100.00"_s);
+        EXPECT_EQ(textOf(d, u"SSPanel2"_s), u"MODIFICATION"_s);
+        EXPECT_EQ(textOf(d, u"Text1(0)"_s), u"2"_s);
+        EXPECT_EQ(textOf(d, u"Text1(2)"_s), u"2"_s);
+        EXPECT_EQ(textOf(d, u"Text1(4)"_s), u"100.00"_s);
         ExpectMessages messages{acquise.arg(2)};
         entrerLigne(d, {u"3"_s, u"2"_s, u"9"_s, u""_s, u"50"_s});
         EXPECT_EQ(ligne(1), (QVariantList{benali, crevette, 9, 0.0, 50.0, 450.0}));
         EXPECT_EQ(ligne(2)[2], 2);
         EXPECT_EQ(lignes(d)->text(1, ColLigneCageots), u"2 "_s);
-        EXPECT_FALSE(visible(d, u"SSFrame1"_s)) << "a correction ends where it began";
+        EXPECT_FALSE(isShown(d, u"SSFrame1"_s)) << "a correction ends where it began";
         EXPECT_TRUE(lignes(d)->isEnabled());
         quitter(d);
     });
@@ -461,13 +428,13 @@ TEST_F(j_venteTest, une_ligne_supprimee_laisse_les_autres_numerotees_sans_trou)
         press(d, Qt::Key_Delete);
         EXPECT_EQ(lignes(d)->text(1, ColLigneNumero) + lignes(d)->text(1, ColLigneCageots), u"23 "_s);
         EXPECT_EQ(lignes(d)->currentRow(), 0);
-        EXPECT_EQ(label(d, u"Label1(7)"_s), u"4"_s);
+        EXPECT_EQ(textOf(d, u"Label1(7)"_s), u"4"_s);
         click(d, u"Crecettes(2)"_s);
         click(d, u"Crecettes(2)"_s);
         EXPECT_FALSE(lignes(d)->isEnabled());
         for (const int sansEffet : {1, 2})
             click(d, u"Crecettes(%1)"_s.arg(sansEffet));
-        EXPECT_FALSE(visible(d, u"SSFrame1"_s));
+        EXPECT_FALSE(isShown(d, u"SSFrame1"_s));
         quitter(d);
     });
     EXPECT_EQ(ecrit("brut"), 0.0) << "an existing bordereau stays, empty";
@@ -480,37 +447,37 @@ TEST_F(j_venteTest, les_frais_se_saisissent_et_ne_comptent_qu_une_fois_acceptes)
     const auto avant = services::sound::setRecorder([&](const QString&) { ++sons; });
     saisir(demande(bordereau(1)), [&](j_vente& d) {
         press(d, Qt::Key_F6);
-        EXPECT_EQ(enMain(d), u"Text3(1)"_s);
-        EXPECT_FALSE(visible(d, u"Crecettes(0)"_s));
+        EXPECT_EQ(focusOf(d), u"Text3(1)"_s);
+        EXPECT_FALSE(isShown(d, u"Crecettes(0)"_s));
         entrer(d, u"30"_s);
-        toucherPave(d, u"SSCommand10"_s, u"12.5"_s); // the second row came in hand
-        EXPECT_EQ(champ(d, u"Text3(2)"_s), u"12.5"_s);
+        clickPad(d, u"SSCommand10"_s, u"12.5"_s); // the second row came in hand
+        EXPECT_EQ(textOf(d, u"Text3(2)"_s), u"12.5"_s);
         click(d, u"Image1(6)"_s);
-        EXPECT_EQ(champ(d, u"Text3(2)"_s), u"12."_s);
+        EXPECT_EQ(textOf(d, u"Text3(2)"_s), u"12."_s);
         type(d, u"Text2(8)"_s, u"Pain"_s);
-        EXPECT_EQ(label(d, u"Label1(9)"_s), u"42.00"_s);
+        EXPECT_EQ(textOf(d, u"Label1(9)"_s), u"42.00"_s);
         press(d, Qt::Key_Escape); // left without taking them
-        EXPECT_EQ(label(d, u"Label2(22)"_s), QString());
+        EXPECT_EQ(textOf(d, u"Label2(22)"_s), QString());
         EXPECT_EQ(sons, 0);
 
         click(d, u"Label2(18)"_s);
-        EXPECT_EQ(champ(d, u"Text2(8)"_s), u"Pain"_s);
+        EXPECT_EQ(textOf(d, u"Text2(8)"_s), u"Pain"_s);
         click(d, u"Label2(22)"_s); // already open: nothing
         press(d, Qt::Key_Return, Qt::ControlModifier);
         EXPECT_EQ(sons, 1);
-        EXPECT_EQ(label(d, u"Label2(22)"_s), u"42.00"_s);
-        EXPECT_EQ(label(d, u"Label2(23)"_s), u"100 .00 "_s) << "the net is computed afresh at departure only";
+        EXPECT_EQ(textOf(d, u"Label2(22)"_s), u"42.00"_s);
+        EXPECT_EQ(textOf(d, u"Label2(23)"_s), u"100 .00 "_s) << "the net is computed afresh at departure only";
         quitter(d);
     });
     EXPECT_EQ(ecrit("frais"), 42.0);
     EXPECT_EQ(ecrit("net"), 58.0);
     saisir(demande(1), [&](j_vente& d) {
         click(d, u"Image1(7)"_s);
-        EXPECT_EQ(champ(d, u"Text3(1)"_s), u"30.00"_s);
+        EXPECT_EQ(textOf(d, u"Text3(1)"_s), u"30.00"_s);
         click(d, u"Image1(8)"_s);
-        EXPECT_FALSE(visible(d, u"SSFrame2"_s));
+        EXPECT_FALSE(isShown(d, u"SSFrame2"_s));
         press(d, Qt::Key_F6);
-        EXPECT_EQ(champ(d, u"Text3(1)"_s) + label(d, u"Label1(9)"_s), QString());
+        EXPECT_EQ(textOf(d, u"Text3(1)"_s) + textOf(d, u"Label1(9)"_s), QString());
         press(d, Qt::Key_Escape);
         quitter(d);
     });
@@ -523,8 +490,8 @@ TEST_F(j_venteTest, les_frais_ouverts_pendant_une_saisie_y_ramenent)
         entrerLigne(d, {u"3"_s, u"2"_s, u"7"_s});
         click(d, u"Label2(22)"_s);
         press(d, Qt::Key_Escape);
-        EXPECT_EQ(champ(d, u"Text1(2)"_s), u"7"_s);
-        EXPECT_FALSE(visible(d, u"Crecettes(0)"_s));
+        EXPECT_EQ(textOf(d, u"Text1(2)"_s), u"7"_s);
+        EXPECT_FALSE(isShown(d, u"Crecettes(0)"_s));
         EXPECT_TRUE(control(d, u"SSTab1"_s)->isEnabled());
         press(d, Qt::Key_Escape);
         quitter(d);
@@ -534,7 +501,7 @@ TEST_F(j_venteTest, les_frais_ouverts_pendant_une_saisie_y_ramenent)
 TEST_F(j_venteTest, primes_et_taux_viennent_du_pave_ou_du_clavier)
 {
     saisir(demande(bordereau(1)), [&](j_vente& d) {
-        EXPECT_EQ(champ(d, u"Text4(1)"_s), u".00"_s);
+        EXPECT_EQ(textOf(d, u"Text4(1)"_s), u".00"_s);
         {
             const auto pave = whenOpened<Calclette>([](Calclette& c) {
                 EXPECT_EQ(control<QLineEdit>(c, u"Text1(1)"_s)->text(), u".00"_s);
@@ -545,16 +512,16 @@ TEST_F(j_venteTest, primes_et_taux_viennent_du_pave_ou_du_clavier)
             });
             press(d, Qt::Key_F5);
         }
-        EXPECT_EQ(champ(d, u"Text4(0)"_s), u"20"_s);
-        EXPECT_EQ(champ(d, u"Text4(1)"_s), QString()) << "a rate of 100 is emptied";
+        EXPECT_EQ(textOf(d, u"Text4(0)"_s), u"20"_s);
+        EXPECT_EQ(textOf(d, u"Text4(1)"_s), QString()) << "a rate of 100 is emptied";
         {
             const auto pave = whenOpened<Calclette>([](Calclette& c) { press(c, Qt::Key_Escape); });
             click(d, u"Image1(5)"_s);
         }
-        EXPECT_EQ(champ(d, u"Text4(0)"_s), u"20"_s);
+        EXPECT_EQ(textOf(d, u"Text4(0)"_s), u"20"_s);
         control<QLineEdit>(d, u"Text4(1)"_s)->setFocus();
         type(d, u"Text4(1)"_s, u"10"_s);
-        EXPECT_EQ(label(d, u"Label2(21)"_s), QString()) << "the old commission stands until the next line";
+        EXPECT_EQ(textOf(d, u"Label2(21)"_s), QString()) << "the old commission stands until the next line";
         quitter(d);
     });
     EXPECT_EQ(ecrit("primes"), 20.0);

@@ -40,7 +40,7 @@ public:
 
     QAction* action(const QString& nom) { return form1.findChild<QAction*>(nom); }
     QWidget* controle(const QString& nom) { return control(form1, nom); }
-    QString texte(const QString& nom) { return control<QLabel>(form1, nom)->text(); }
+    QString texte(const QString& nom) { return textOf(form1, nom); }
 
     ExerciceTemporaire t;
     Form1 form1;

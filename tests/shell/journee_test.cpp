@@ -6,64 +6,26 @@
 #include "invoicing/fact_bis.h"
 #include "invoicing/factura.h"
 #include "platform/controls/grid.h"
-#include "platform/reports/page_view.h"
-#include "platform/reports/preview.h"
 #include "platform/services/clock.h"
 #include "reference/q_selection.h"
 #include "sales/f_bord.h"
 #include "sales/j_vente.h"
 #include "shell/fonctions.h"
 #include "shell/form1.h"
+#include "tests/support/apercu.h"
 #include "tests/support/exemples.h"
 #include "tests/support/exercice_temporaire.h"
-#include "tests/support/keys.h"
 #include "tests/support/messages.h"
 #include "tools/calclette.h"
 
-#include <QAbstractButton>
 #include <QFile>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 using namespace talor;
 using controls::Grid;
-using reports::Apercu;
 
 namespace {
-
-/// The texts of every page of the next document that opens.
-QStringList pagesMontrees(const std::function<void()>& action)
-{
-    QStringList pages;
-    {
-        const auto apercu = whenOpened<Apercu>([&pages](Apercu& a) {
-            for (const reports::Page& page : a.view()->document().pages()) {
-                QStringList textes;
-                for (const reports::TextRun& run : page.texts)
-                    textes += run.text;
-                pages += textes.join(u'\n');
-            }
-            press(a, Qt::Key_Escape);
-        });
-        action();
-    }
-    QCoreApplication::processEvents();
-    return pages;
-}
-
-void toucherRang(QWidget& d, const QString& grille, int rang)
-{
-    auto* liste = control<Grid>(d, grille);
-    const QModelIndex place = liste->model()->index(rang, 0);
-    liste->scrollTo(place);
-    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, liste->visualRect(place).center());
-}
-
-void toucherPave(QWidget& d, const QString& famille, const QString& nombre)
-{
-    for (const QChar c : nombre)
-        click(d, u"%1(%2)"_s.arg(famille).arg(c == u'.' ? 10 : c.digitValue()));
-}
 
 /// One way of working: every gesture by keys, or every gesture by touch.
 class Geste
@@ -180,7 +142,7 @@ public:
             click(d, u"Crecettes(3)"_s);
         {
             const auto choix = whenOpened<Q_Bateau>([&](Q_Bateau& q) {
-                toucherRang(q, u"Grid1"_s, bateau - 1);
+                clickRow(q, u"Grid1"_s, bateau - 1);
                 click(q, u"Image1(0)"_s);
             });
             click(d, u"Image2(1)"_s);
@@ -189,13 +151,13 @@ public:
     }
     void ligne(j_vente& d, const LigneCriee& l) override
     {
-        toucherRang(d, u"Grid2(1)"_s, l.client - 1); // clients were named in the order of their numbers
-        toucherRang(d, u"Grid2(0)"_s, l.poisson - 1);
+        clickRow(d, u"Grid2(1)"_s, l.client - 1); // clients were named in the order of their numbers
+        clickRow(d, u"Grid2(0)"_s, l.poisson - 1);
         click(d, u"Image1(4)"_s);
         const QString chiffres[] = {l.cageots, l.poids, l.pu};
         for (int i = 0; i < 3; ++i) {
             click(d, u"Text22(%1)"_s.arg(i));
-            toucherPave(d, u"SSCommand11"_s, chiffres[i]);
+            clickPad(d, u"SSCommand11"_s, chiffres[i]);
         }
         click(d, u"Image22(1)"_s);
         click(d, u"Image1(0)"_s);
@@ -203,12 +165,12 @@ public:
     void finDeSaisie(j_vente& d) override { click(d, u"Image1(1)"_s); }
     void corriger(j_vente& d) override
     {
-        toucherRang(d, u"Grid1"_s, 0);
+        clickRow(d, u"Grid1"_s, 0);
         click(d, u"Crecettes(1)"_s);
     }
     void supprimer(j_vente& d, int rang) override
     {
-        toucherRang(d, u"Grid1"_s, rang);
+        clickRow(d, u"Grid1"_s, rang);
         click(d, u"Crecettes(2)"_s);
     }
     void frais(j_vente& d, const QList<QString>& montants) override
@@ -216,7 +178,7 @@ public:
         click(d, u"Image1(7)"_s);
         for (int i = 0; i < montants.size(); ++i) {
             click(d, u"Text3(%1)"_s.arg(i + 1));
-            toucherPave(d, u"SSCommand10"_s, montants[i]);
+            clickPad(d, u"SSCommand10"_s, montants[i]);
         }
         click(d, u"Image1(3)"_s);
     }
@@ -226,7 +188,7 @@ public:
             const QString valeurs[] = {primes, taux};
             for (int i = 0; i < 2; ++i) {
                 click(c, u"Text1(%1)"_s.arg(i));
-                toucherPave(c, u"SSCommand1"_s, valeurs[i]);
+                clickPad(c, u"SSCommand1"_s, valeurs[i]);
             }
             click(c, u"Image1(1)"_s);
         });
@@ -238,7 +200,7 @@ public:
                  : d.objectName() == u"Fact_Bis"_s ? u"Image1(3)"_s
                                                    : u"Crecettes(3)"_s);
     }
-    void choisirRang(QWidget& d, int rang) override { toucherRang(d, u"Grid1"_s, rang); }
+    void choisirRang(QWidget& d, int rang) override { clickRow(d, u"Grid1"_s, rang); }
     void reouvrir(F_Bord& d) override { click(d, u"Crecettes(1)"_s); }
     void supprimer(F_Bord& d) override { click(d, u"Crecettes(2)"_s); }
     void facturer(Factura& d) override { click(d, u"Image1(1)"_s); }

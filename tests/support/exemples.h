@@ -136,6 +136,16 @@ public:
         return t.update();
     }
 
+    /// Sets fields of a row, as other functions of the program would have left them.
+    static void changer(store::Recordset& table, qint64 num, const QList<std::pair<const char*, QVariant>>& champs)
+    {
+        table.seek(num);
+        table.edit();
+        for (const auto& [champ, valeur] : champs)
+            table.set(champ, valeur);
+        table.update();
+    }
+
 private:
     Exercice& m_exercice;
     int m_clients = 0;

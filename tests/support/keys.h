@@ -2,6 +2,7 @@
 
 #include "tests/support/print.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDialog>
 #include <QPointer>
@@ -33,6 +34,28 @@ template<class Control = QWidget> Control* control(QWidget* root, const QString&
 template<class Control = QWidget> Control* control(QWidget& root, const QString& name)
 {
     return control<Control>(&root, name);
+}
+
+/// What a label, a field or a button reads; of a list of choices, the one in hand.
+inline QString textOf(QWidget& root, const QString& name)
+{
+    const QWidget* shown = control(root, name);
+    for (const char* property : {"currentText", "text"}) {
+        if (const QVariant text = shown->property(property); text.isValid())
+            return text.toString();
+    }
+    throw std::runtime_error(name.toStdString() + " reads nothing");
+}
+
+inline bool isShown(QWidget& root, const QString& name)
+{
+    return control(root, name)->isVisible();
+}
+
+/// The name of the control that has the focus; "" when none has it.
+inline QString focusOf(QWidget& window)
+{
+    return window.focusWidget() ? window.focusWidget()->objectName() : QString();
 }
 
 /// Shows a window and waits until the keys go to it.
@@ -78,6 +101,22 @@ inline void click(QWidget* target)
 inline void click(QWidget& root, const QString& name)
 {
     click(control(root, name));
+}
+
+/// Clicks a row of a list.
+inline void clickRow(QWidget& root, const QString& list, int row)
+{
+    auto* view = control<QAbstractItemView>(root, list);
+    const QModelIndex place = view->model()->index(row, 0);
+    view->scrollTo(place);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(place).center());
+}
+
+/// Clicks the keys of a pad: digits, and the point, which is its eleventh.
+inline void clickPad(QWidget& root, const QString& family, const QString& number)
+{
+    for (const QChar c : number)
+        click(root, QStringLiteral("%1(%2)").arg(family).arg(c == u'.' ? 10 : c.digitValue()));
 }
 
 /// Waits for a modal dialog; see `whenOpened`.

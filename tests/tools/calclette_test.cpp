@@ -50,32 +50,22 @@ void frapper(Calclette& d, const QString& touches)
         QTest::sendKeyEvent(QTest::Click, &d, c == u'\b' ? Qt::Key_Backspace : Qt::Key_unknown, QString(c), {});
 }
 
-QString label(Calclette& d, const QString& nom)
-{
-    return control<QLabel>(d, nom)->text();
-}
-
-QString champ(Calclette& d, int index)
-{
-    return control<QLineEdit>(d, u"Text1(%1)"_s.arg(index))->text();
-}
-
 } // namespace
 
 TEST_F(CalcletteTest, le_nombre_va_dans_les_cageots_le_poids_ou_le_prix)
 {
     const auto pris = chiffres([](Calclette& d) {
-        EXPECT_EQ(label(d, u"Label4"_s), u"Cageots"_s);
+        EXPECT_EQ(textOf(d, u"Label4"_s), u"Cageots"_s);
         taper(d, u"250.5"_s);
         click(d, u"SSCommand2(3)"_s);
-        EXPECT_EQ(label(d, u"Label1"_s), QString()) << "the number moves, and leaves the pad";
+        EXPECT_EQ(textOf(d, u"Label1"_s), QString()) << "the number moves, and leaves the pad";
         EXPECT_TRUE(control(d, u"Label2(0)"_s)->property("inHand").toBool()) << "after the price, the crates again";
         EXPECT_FALSE(control(d, u"Label2(2)"_s)->property("inHand").toBool());
         taper(d, u"12"_s);
         click(d, u"SSCommand2(1)"_s);
         taper(d, u"99"_s);
         click(d, u"SSCommand2(0)"_s);
-        EXPECT_EQ(label(d, u"Label1"_s), QString());
+        EXPECT_EQ(textOf(d, u"Label1"_s), QString());
         taper(d, u"35.57<"_s);
         click(d, u"SSCommand2(2)"_s);
         click(d, u"Image1(1)"_s);
@@ -87,11 +77,11 @@ TEST_F(CalcletteTest, le_nombre_a_douze_caracteres_et_un_point)
 {
     chiffres([](Calclette& d) {
         taper(d, u"<"_s);
-        EXPECT_EQ(label(d, u"Label1"_s), QString()) << "an empty number stays as it is";
+        EXPECT_EQ(textOf(d, u"Label1"_s), QString()) << "an empty number stays as it is";
         taper(d, u"1234567890123"_s);
-        EXPECT_EQ(label(d, u"Label1"_s), u"123456789012"_s) << "a thirteenth digit is refused";
+        EXPECT_EQ(textOf(d, u"Label1"_s), u"123456789012"_s) << "a thirteenth digit is refused";
         taper(d, u"<<<..5"_s);
-        EXPECT_EQ(label(d, u"Label1"_s), u"123456789.5"_s);
+        EXPECT_EQ(textOf(d, u"Label1"_s), u"123456789.5"_s);
         press(d, Qt::Key_Escape);
     });
 }
@@ -104,7 +94,7 @@ TEST_F(CalcletteTest, le_clavier_vaut_le_pave)
         frapper(d, u"3,57\b"_s);
         press(d, Qt::Key_Return);
         press(d, Qt::Key_Up);
-        EXPECT_EQ(label(d, u"Label4"_s), u"Poids"_s);
+        EXPECT_EQ(textOf(d, u"Label4"_s), u"Poids"_s);
         press(d, Qt::Key_Down);
         frapper(d, u"1"_s);
         press(d, Qt::Key_Delete);
@@ -144,14 +134,14 @@ TEST_F(CalcletteTest, primes_et_commission_par_le_clavier_ou_le_pave)
               }),
               (PrimesEtTaux{u"1000"_s, u"12.5"_s}));
     EXPECT_EQ(primes([](Calclette& d) {
-                  EXPECT_EQ(label(d, u"Label4"_s), u"Primes"_s);
+                  EXPECT_EQ(textOf(d, u"Label4"_s), u"Primes"_s);
                   taper(d, u"250.5"_s);
                   click(d, u"Text1(1)"_s);
-                  EXPECT_EQ(label(d, u"Label4"_s), u"Commission (%)"_s);
-                  EXPECT_EQ(label(d, u"Label1"_s), QString());
+                  EXPECT_EQ(textOf(d, u"Label4"_s), u"Commission (%)"_s);
+                  EXPECT_EQ(textOf(d, u"Label1"_s), QString());
                   taper(d, u"9"_s);
                   click(d, u"SSCommand2(4)"_s);
-                  EXPECT_EQ(champ(d, 1), QString());
+                  EXPECT_EQ(textOf(d, u"Text1(1)"_s), QString());
                   taper(d, u"10"_s);
                   click(d, u"Image1(1)"_s);
               }),
