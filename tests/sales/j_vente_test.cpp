@@ -56,9 +56,11 @@ protected:
     /// A bordereau of so many lines at 100 dinars a crate, of 1, 2, 3... crates, never above 50.
     qint64 bordereau(int lignes)
     {
+        store::Transaction transaction(t.exercice.Base());
         const qint64 num = exemples.bordereau(u"15/06/2026"_s, nadjet);
         for (int i = 1; i <= lignes; ++i)
             exemples.ligne({num, nadjet, i % 2 ? zoulim : amari, sardine, (i - 1) % 50 + 1, 0, 100});
+        transaction.commit();
         return num;
     }
 
