@@ -5,17 +5,6 @@
 using namespace Qt::StringLiterals;
 using namespace talor;
 
-TEST(Exercice, ouvre_ses_vingt_tables_sur_un_fichier_neuf)
-{
-    ExerciceTemporaire t;
-    for (store::Recordset* table :
-         {&t.exercice.Permn, &t.exercice.Poissons, &t.exercice.Clients, &t.exercice.Marins0, &t.exercice.textes})
-        EXPECT_TRUE(table->isOpen());
-    t.exercice.FermerBase();
-    EXPECT_FALSE(t.exercice.Clients.isOpen());
-    EXPECT_FALSE(t.exercice.estOuvert());
-}
-
 TEST(Exercice, les_parametres_absents_prennent_leurs_valeurs_de_depart)
 {
     ExerciceTemporaire t;
@@ -45,16 +34,6 @@ TEST(Exercice, l_entete_des_etats_porte_l_identite_et_laisse_les_autres_textes)
     EXPECT_EQ(t.exercice.textes.text("ch3"), u"Port de Ténès"_s);
     EXPECT_EQ(t.exercice.textes.text("ch4"), u"Période"_s);
     EXPECT_EQ(t.exercice.textes.recordCount(), 1);
-}
-
-TEST(Exercice, une_ligne_de_vente_nait_non_facturee)
-{
-    ExerciceTemporaire t;
-    t.exercice.L_Vente.addNew();
-    t.exercice.L_Vente.set("poids", 12.5);
-    t.exercice.L_Vente.update();
-    t.exercice.L_Vente.moveLast();
-    EXPECT_EQ(t.exercice.L_Vente.integer("Num_Facture"), nonFacture);
 }
 
 // The settlement copies its rows by position: what stands where is a promise.

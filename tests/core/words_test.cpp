@@ -132,13 +132,6 @@ TEST(MontantEnLettres, le_pluriel_de_million_regarde_le_dernier_chiffre_ecrit)
         EXPECT_EQ(motsNus(c.montant), QString::fromUtf8(c.mots)) << c.montant;
 }
 
-TEST(MontantEnLettres, le_pluriel_de_dinar_regarde_les_trois_derniers_chiffres)
-{
-    EXPECT_TRUE(motsNus(5001).endsWith(u"DINAR"_s));
-    EXPECT_TRUE(motsNus(5000).endsWith(u"DINAR"_s));
-    EXPECT_TRUE(motsNus(5002).endsWith(u"DINARS"_s));
-}
-
 TEST(EncadrerLignes, chaque_ligne_a_son_cadre_et_rien_ne_se_perd_a_la_coupe)
 {
     EXPECT_EQ(EncadrerLignes(u"UN DINAR"_s), QStringList{u"*** UN DINAR "_s.leftJustified(68, u'*')});

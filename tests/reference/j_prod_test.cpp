@@ -2,7 +2,6 @@
 #include "reference/j_prod.h"
 #include "tests/reference/fichier_a_l_ecran.h"
 
-#include "platform/controls/file_dialog.h"
 #include "reference/fichiers.h"
 #include "reference/images.h"
 
@@ -130,18 +129,16 @@ TEST_F(J_PROD_Test, une_image_se_choisit_se_voit_et_se_supprime)
     const QString cible = photoProduit(t.exercice, 1);
     EXPECT_TRUE(cible.endsWith(u"/1.BMP"_s));
 
-    controls::FileDialog::Request demande;
-    QString reponse;
-    const auto ancien = controls::FileDialog::setScript([&](const controls::FileDialog::Request& request) {
-        demande = request;
-        return reponse;
-    });
+    QFile texte(t.chemin(u"facture.jpg"_s));
+    ASSERT_TRUE(texte.open(QIODevice::WriteOnly));
+    texte.write("Sardine");
+    texte.close();
+    const ExpectFiles fichiers{QString(), choisie, texte.fileName()};
     FichierALEcran<J_PROD> f(t.exercice);
     EXPECT_TRUE(imageParDefaut(f));
     click(f.dialogue, u"Image3"_s);
-    EXPECT_TRUE(demande.filter.contains(u"*.BMP *.GIF *.JPG"_s));
+    EXPECT_TRUE(fichiers.asked().first().filter.contains(u"*.BMP *.GIF *.JPG"_s));
     EXPECT_TRUE(imageParDefaut(f)) << "given up";
-    reponse = choisie;
     f.touche(Qt::Key_I, Qt::ControlModifier);
     EXPECT_FALSE(imageParDefaut(f));
     EXPECT_TRUE(QFile::exists(cible));
@@ -150,11 +147,6 @@ TEST_F(J_PROD_Test, une_image_se_choisit_se_voit_et_se_supprime)
     f.touche(Qt::Key_Up);
     EXPECT_FALSE(imageParDefaut(f));
 
-    QFile texte(t.chemin(u"facture.jpg"_s));
-    ASSERT_TRUE(texte.open(QIODevice::WriteOnly));
-    texte.write("Sardine");
-    texte.close();
-    reponse = texte.fileName();
     ExpectMessages messages{{u"Fichier facture.jpg : ce n'est pas une image"_s, u"ATTENTION"_s},
                             {u"Confirmer la suppression de l'image"_s, u"Confirmation"_s, Answer::No},
                             {u"Confirmer la suppression de l'image"_s, u"Confirmation"_s, Answer::Yes}};
@@ -170,5 +162,4 @@ TEST_F(J_PROD_Test, une_image_se_choisit_se_voit_et_se_supprime)
     EXPECT_FALSE(control(f.dialogue, u"SSFrame2"_s)->isVisible());
     f.touche(Qt::Key_Down);
     EXPECT_TRUE(control(f.dialogue, u"SSFrame2"_s)->isVisible()) << "a row shows its picture again";
-    controls::FileDialog::setScript(ancien);
 }

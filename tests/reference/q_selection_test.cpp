@@ -34,12 +34,15 @@ protected:
 
 TEST_F(SelectionTest, une_table_vide_se_dit_et_ne_choisit_rien)
 {
+    // The boats bear the text of the products.
     ExpectMessages messages{{u"Aucun client enregistré"_s, u"ATTENTION"_s},
                             {u"Aucun produit enregistré"_s, u"ATTENTION"_s},
                             {u"Aucun produit enregistré"_s, u"ATTENTION"_s}};
     EXPECT_EQ(Q_Client::demander(&fenetre, t.exercice), std::nullopt);
     EXPECT_EQ(Q_Bateau::demander(&fenetre, t.exercice), std::nullopt);
     EXPECT_EQ(Q_Poisson::demander(&fenetre, t.exercice), std::nullopt);
+    for (const controls::MessageText& boite : messages.shown())
+        EXPECT_EQ(boite.icon, controls::MessageIcon::Stop);
 }
 
 TEST_F(SelectionTest, entree_prend_la_ligne_en_main)
@@ -95,22 +98,6 @@ TEST_F(SelectionTest, les_boutons_montent_descendent_et_se_cachent_aux_bouts)
     });
     EXPECT_EQ(Q_Client::demander(&fenetre, t.exercice)->num, 2);
     EXPECT_EQ(sons, 3);
-}
-
-TEST_F(SelectionTest, la_derniere_ligne_d_une_longue_liste_reste_en_vue)
-{
-    clients(300);
-    const auto travail = whenOpened<Q_Client>([](Q_Client& d) {
-        auto* grille = control<Grid>(d, u"Grid1"_s);
-        for (int i = 0; i < 40; ++i)
-            click(d, u"Image1(2)"_s);
-        EXPECT_EQ(grille->currentRow(), 40);
-        EXPECT_TRUE(grille->viewport()->rect().contains(grille->visualRect(grille->model()->index(40, 0))));
-        press(d, Qt::Key_End);
-        EXPECT_FALSE(isShown(d, u"Image1(2)"_s));
-        press(d, Qt::Key_Enter);
-    });
-    EXPECT_EQ(Q_Client::demander(&fenetre, t.exercice)->num, 300);
 }
 
 TEST_F(SelectionTest, les_lettres_menent_au_nom_sans_souci_d_accents)

@@ -8,15 +8,6 @@
 using namespace Qt::StringLiterals;
 using namespace talor;
 
-TEST(Selection, une_table_vide_se_dit)
-{
-    ExerciceTemporaire t;
-    EXPECT_EQ(ListeSelection::lire(t.exercice, selectionClients()).refus(), Refus{u"Aucun client enregistré"_s});
-    EXPECT_EQ(ListeSelection::lire(t.exercice, selectionPoissons()).refus(), Refus{u"Aucun produit enregistré"_s});
-    // The boats bear the text of the products.
-    EXPECT_EQ(ListeSelection::lire(t.exercice, selectionBateaux()).refus(), Refus{u"Aucun produit enregistré"_s});
-}
-
 TEST(Selection, les_clients_par_nom_et_prenom_les_autres_par_ordre)
 {
     ExerciceTemporaire t;
@@ -24,10 +15,7 @@ TEST(Selection, les_clients_par_nom_et_prenom_les_autres_par_ordre)
     const qint64 slimani = exemples.client(u"SLIMANI"_s, u"Omar"_s);
     const qint64 zoubir = exemples.client(u"AMRANI"_s, u"Zoubir"_s);
     const qint64 ali = exemples.client(u"AMRANI"_s, u"Ali"_s);
-    t.exercice.Clients.seek(ali);
-    t.exercice.Clients.edit();
-    t.exercice.Clients.set("ville", u"Ténès"_s);
-    t.exercice.Clients.update();
+    Exemples::changer(t.exercice.Clients, ali, {{"ville", u"Ténès"_s}});
     exemples.poisson(u"Sole"_s);
     exemples.poisson(u"Merlan"_s);
 

@@ -1,8 +1,6 @@
 #include "shell/fonctions.h"
 
-#include "invoicing/factura.h"
 #include "invoicing/factures.h"
-#include "platform/controls/file_dialog.h"
 #include "platform/services/opener.h"
 #include "reference/f_classm.h"
 #include "shell/affichage.h"
@@ -63,17 +61,13 @@ TEST(Aide, tient_son_texte_et_se_ferme_par_echap)
     form1.executer(u"mnu_hlp"_s);
 }
 
-TEST(Facturation, la_facturation_et_le_registre_s_ouvrent_par_le_menu)
+TEST(Facturation, le_registre_s_ouvre_par_le_menu)
 {
     ExerciceTemporaire t;
     Exemples exemples(t.exercice);
-    const qint64 client = exemples.client(u"AMARI"_s);
-    exemples.ligne({.client = client, .casiers = 1, .pu = 100});
-    exemples.facture({.client = client});
+    exemples.facture({.client = exemples.client(u"AMARI"_s)});
     Form1 form1(t.exercice);
     brancherFonctions(form1, t.exercice);
-    const auto facturation = whenOpened<Factura>([](Factura& d) { press(d, Qt::Key_Escape); });
-    form1.executer(u"Nouv_Fact"_s);
     const auto registre = whenOpened<FACTURES>([](FACTURES& d) { press(d, Qt::Key_Escape); });
     form1.executer(u"mnu_s_t"_s);
 }
@@ -146,9 +140,8 @@ TEST(Affichage, une_image_se_choisit_se_cache_et_revient)
     auto* montrer = control<QCheckBox>(dialogue, u"Check1(1)"_s);
     EXPECT_FALSE(montrer->isEnabled());
 
-    const auto avant = controls::FileDialog::setScript([&](const auto&) { return choisie; });
+    const ExpectFiles fichiers{choisie};
     click(dialogue, u"SSCommand2(1)"_s);
-    controls::FileDialog::setScript(avant);
     EXPECT_TRUE(imageLaterale(installation, Cote::Droite));
     EXPECT_FALSE(imageLaterale(installation, Cote::Gauche));
     EXPECT_TRUE(montrer->isChecked());

@@ -4,7 +4,6 @@
 #include "tests/support/exercice_temporaire.h"
 #include "tests/support/keys.h"
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -71,19 +70,6 @@ TEST_F(CalcletteTest, le_nombre_va_dans_les_cageots_le_poids_ou_le_prix)
         click(d, u"Image1(1)"_s);
     });
     EXPECT_EQ(pris, (Chiffres{u"12"_s, u"35.5"_s, u"250.5"_s}));
-}
-
-TEST_F(CalcletteTest, le_nombre_a_douze_caracteres_et_un_point)
-{
-    chiffres([](Calclette& d) {
-        taper(d, u"<"_s);
-        EXPECT_EQ(textOf(d, u"Label1"_s), QString()) << "an empty number stays as it is";
-        taper(d, u"1234567890123"_s);
-        EXPECT_EQ(textOf(d, u"Label1"_s), u"123456789012"_s) << "a thirteenth digit is refused";
-        taper(d, u"<<<..5"_s);
-        EXPECT_EQ(textOf(d, u"Label1"_s), u"123456789.5"_s);
-        press(d, Qt::Key_Escape);
-    });
 }
 
 TEST_F(CalcletteTest, le_clavier_vaut_le_pave)

@@ -191,6 +191,7 @@ TEST(NumberPad, ItsKeysAreLargeEnoughForAFinger)
 {
     NumberPad pad({u"SSCommand10"_s, u"Label4"_s, u"Image1(6)"_s});
     show(pad);
+    pad.resize(pad.minimumSizeHint()); // as small as a dialog can make it
     constexpr double twelveMillimetres = 12 / 25.4 * 96;
     for (const auto* key : pad.findChildren<QAbstractButton*>()) {
         EXPECT_GE(key->width(), twelveMillimetres);

@@ -1,5 +1,5 @@
-// Pictures of every control in its states, for the eye: talor_gallery <folder>. QT_SCALE_FACTOR=2 draws them twice as
-// large.
+// Pictures of the controls, the boxes and the icons in their states, for the eye: talor_gallery <folder>. The dialogs
+// themselves are in the demonstration's pictures. QT_SCALE_FACTOR=2 draws them twice as large.
 
 #include "platform/controls/command_bar.h"
 #include "platform/controls/dialog.h"
@@ -20,10 +20,10 @@
 #include <QDir>
 #include <QGridLayout>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QProgressBar>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using namespace controls;
@@ -41,120 +41,6 @@ void keep(QWidget& window, const QString& name)
     window.grab().save(folder.filePath(name + u".png"_s));
     window.hide();
 }
-
-class CardFile : public Dialog
-{
-public:
-    explicit CardFile(bool entering)
-        : Dialog(u"j_Client", u"Clients"_s)
-    {
-        auto* grid = named(new Grid, u"Grid1");
-        grid->setColumns({{u"N°"_s, 600, Qt::AlignHCenter},
-                          {u"Nom"_s, 2020},
-                          {u"Prénom"_s, 2020},
-                          {u"Téléphone"_s, 1170},
-                          {u"Ville"_s, 1310},
-                          {u"Solde"_s, 1420, Qt::AlignRight}});
-        grid->setInk([](int row, int column) { return column == 5 && row % 3 == 0 ? Ink::Owed : Ink::Normal; });
-        grid->setRows(40, [](int row, int column) {
-            const QStringList cells{QString::number(row + 1),
-                                    u" BENHAMOUDA"_s,
-                                    u" Abdelkader"_s,
-                                    u" 041 33 21 0%1"_s.arg(row % 10),
-                                    u" Oran"_s,
-                                    row % 3 == 0 ? u"-12 450.00 "_s : u"1 208 300.50 "_s};
-            return cells.at(column);
-        });
-        grid->selectRow(3);
-        body()->addWidget(grid, 1);
-
-        auto* panel = new EntryPanel(u"SSFrame1", u"SSPanel2");
-        panel->setTitle(u"MODIFICATION"_s);
-        auto* name = new TextField(TextField::Kind::Capitals);
-        name->setText(u"BENHAMOUDA"_s);
-        panel->addField(u"Nom"_s, name);
-        panel->addField(u"Prénom"_s, new TextField(TextField::Kind::FirstCapital));
-        panel->addField(u"Adresse"_s, new TextField);
-        panel->nextColumn();
-        panel->addFields(u"Date"_s, {new TextField(TextField::Kind::Date), iconButton(u"calendrier", u"Calendrier"_s)});
-        panel->addField(u"Observations"_s, new MemoField);
-        panel->addAccept(u"Image1", 0);
-        auto* cancel = panel->addCancel(u"Image1", 1);
-        panel->setVisible(entering);
-        grid->setEnabled(!entering);
-        body()->addWidget(panel);
-
-        auto* bar = new CommandBar(u"Crecettes"_s);
-        bar->add(0, u"nouveau", u"Nouveau"_s);
-        bar->add(1, u"modifier", u"Modifier"_s);
-        bar->add(2, u"supprimer", u"Supprimer"_s);
-        bar->add(4, u"trier-numero", u"sur N° d'ordre"_s);
-        bar->add(5, u"trier-alpha", u"Ordre Alph."_s);
-        bar->add(6, u"appeler", u"Appeler"_s)->setEnabled(false);
-        bar->addStretch();
-        auto* quit = bar->add(3, u"quitter", u"Quitter"_s);
-        bar->setAllVisible(!entering);
-        commands()->addWidget(bar);
-        setCancel({cancel, quit});
-        if (entering)
-            name->setFocus();
-        else
-            grid->setFocus();
-    }
-};
-
-class Register : public Dialog
-{
-public:
-    Register()
-        : Dialog(u"F_Bord", u"Bordereaux"_s)
-    {
-        auto* titles = new QLabel(u"Bordereaux du mois de Novembre  —  Ensemble des embarcations"_s);
-        setRole(titles, Role::Subtitle);
-        band()->addWidget(titles);
-        auto* grid = named(new Grid, u"Grid1");
-        const Qt::Alignment centre = Qt::AlignHCenter;
-        const Qt::Alignment right = Qt::AlignRight;
-        grid->setColumns({{u"N°"_s, 940, centre},
-                          {u"Date"_s, 1280, centre},
-                          {u"Embarcation"_s, 2320},
-                          {u"Cas."_s, 580, centre},
-                          {u"Brut"_s, 1420, right},
-                          {u"Primes"_s, 1060, right},
-                          {u"Comm."_s, 1040, right},
-                          {u"Frais"_s, 1080, right},
-                          {u"Net"_s, 1440, right},
-                          {u"Fact"_s, 630, centre},
-                          {u"Déc."_s, 630, centre}});
-        grid->setRows(22, [](int row, int column) {
-            const QStringList cells{QString::number(row + 1),
-                                    u"15/11/2026"_s,
-                                    u"Sidi Abderrahmane II "_s,
-                                    u"120"_s,
-                                    u"1 248 500.00 "_s,
-                                    u"12 000.00 "_s,
-                                    u"185 475.00 "_s,
-                                    u"42 350.00 "_s,
-                                    u"1 008 675.00 "_s,
-                                    u"OUI"_s,
-                                    u"14"_s};
-            return cells.at(column);
-        });
-        grid->setMark([](int row) { return row == 6; });
-        grid->selectRow(21);
-        body()->addWidget(grid, 1);
-        auto* bar = new CommandBar(u"Crecettes"_s);
-        bar->add(3, u"nouveau", u"Nouveau"_s)->setPrimary();
-        bar->add(1, u"modifier", u"Modifier"_s);
-        bar->add(2, u"supprimer", u"Supprimer"_s);
-        bar->add(0, u"imprimer", u"Imprimer"_s);
-        bar->add(4, u"filtre", u"Filtre"_s);
-        bar->addStretch();
-        bar->add(5, u"quitter", u"Quitter"_s);
-        commands()->addWidget(bar);
-        grid->setFocus();
-    }
-};
 
 class Pieces : public Dialog
 {
@@ -286,32 +172,6 @@ public:
     }
 };
 
-void menus()
-{
-    QWidget window;
-    auto* column = new QVBoxLayout(&window);
-    column->setContentsMargins({});
-    auto* bar = new QMenuBar;
-    for (const auto& caption : {u"&Fichiers"_s, u"&Mouvements"_s, u"&Comptes"_s, u"&Editions"_s, u"&Aide"_s})
-        bar->addMenu(caption);
-    column->addWidget(bar);
-    column->addStretch();
-    window.resize(700, 80);
-    keep(window, u"menu"_s);
-
-    QMenu menu;
-    menu.addMenu(u"&Paramétrages"_s);
-    menu.addAction(u"A&gents"_s);
-    menu.addAction(u"&Armateurs"_s, Qt::CTRL | Qt::Key_A, [] {});
-    menu.addSeparator();
-    menu.addAction(u"&Clôturer l'exercice"_s)->setEnabled(false);
-    QAction* checked = menu.addAction(u"Résolution d'origine"_s);
-    checked->setCheckable(true);
-    checked->setChecked(true);
-    menu.addAction(u"&Quitter"_s);
-    keep(menu, u"menu-ouvert"_s);
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -321,17 +181,10 @@ int main(int argc, char** argv)
     folder = QDir(argc > 1 ? QString::fromLocal8Bit(argv[1]) : u"."_s);
     folder.mkpath(u"."_s);
 
-    CardFile browsing(false);
-    keep(browsing, u"fiches"_s);
-    CardFile entering(true);
-    keep(entering, u"fiche-en-saisie"_s);
-    Register journal;
-    keep(journal, u"registre"_s);
     Pieces pieces;
     keep(pieces, u"pieces"_s);
     IconSheet icons;
     keep(icons, u"icones"_s);
-    menus();
     Message refusal(nullptr, {u"Saisie incomplète"_s, u"ATTENTION"_s, MessageIcon::Stop, Buttons::Ok});
     keep(refusal, u"message-refus"_s);
     Message question(

@@ -62,14 +62,6 @@ TEST(Message, WithoutATitleItBearsTheProgramsName)
     EXPECT_EQ(Message(nullptr, {u"Numéro omis"_s, {}}).windowTitle(), u"TALOR"_s);
 }
 
-TEST(Message, AScriptAnswersInItsPlace)
-{
-    ExpectMessages messages{{u"Confirmer ?"_s, u"Confirmation"_s, Answer::Yes}, u"Saisie incomplète"_s};
-    EXPECT_TRUE(Message::confirm(nullptr, u"Confirmer ?"_s));
-    EXPECT_EQ(Message::show(nullptr, u"Saisie incomplète"_s, u"ATTENTION"_s, MessageIcon::Stop), Answer::Ok);
-    EXPECT_EQ(messages.shown().last().icon, MessageIcon::Stop);
-}
-
 // The seam itself must not let a fault through.
 TEST(ExpectMessages, FailsOnWhatWasNotExpectedAndOnWhatDoesNotCome)
 {
@@ -87,11 +79,4 @@ TEST(ExpectMessages, FailsOnWhatWasNotExpectedAndOnWhatDoesNotCome)
             Message::show(nullptr, u"Fini"_s);
         },
         "no such button");
-}
-
-TEST(FileDialog, AScriptAnswersInItsPlace)
-{
-    const ExpectFiles files{u"/photos/12.bmp"_s};
-    EXPECT_EQ(controls::FileDialog::open(nullptr, u"Image"_s, u"/photos"_s, u"Images (*.bmp)"_s), u"/photos/12.bmp"_s);
-    EXPECT_EQ(files.asked().first().start, u"/photos"_s);
 }

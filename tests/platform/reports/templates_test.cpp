@@ -77,14 +77,6 @@ TEST(Templates, PrintWhatTheyPrintedBefore)
     compareWithKept(print(u"L_CHALUT.RPT"_s, source), u"liste_embarcations"_s);
 }
 
-TEST(Templates, EveryOneCanBeRead)
-{
-    const QStringList files = templates.entryList({u"*.RPT"_s, u"*.rpt"_s});
-    EXPECT_GE(files.size(), 5);
-    for (const QString& file : files)
-        EXPECT_FALSE(reports::Template::load(templates.filePath(file)).fields().isEmpty()) << file.toStdString();
-}
-
 TEST(Invoice, OfTwentyFiveLinesTakesOneSheet)
 {
     EXPECT_EQ(printInvoice(25, samples::invoiceTexts(12)).pageCount(), 1);
