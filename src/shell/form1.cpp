@@ -10,6 +10,7 @@
 #include "shell/menu.h"
 #include "shell/panneaux.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QPushButton>
@@ -77,10 +78,10 @@ void Form1::brancherLesSiennes()
         brancher(entreesResolution[i], [this, i] { m_resolution = static_cast<Resolution>(i); });
 }
 
-void Form1::brancher(const QString& nom, std::function<void()> fonction)
+void Form1::brancher(const QString& nom, const std::function<void()>& fonction)
 {
     Q_ASSERT_X(entree(nom), "Form1::brancher", qPrintable(nom));
-    m_fonctions.insert(nom, std::move(fonction));
+    m_fonctions.insert(nom, fonction);
     actualiserMenus();
 }
 

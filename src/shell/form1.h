@@ -34,7 +34,7 @@ public:
     explicit Form1(Exercice& exercice);
     ~Form1() override;
 
-    void brancher(const QString& entree, std::function<void()> fonction);
+    void brancher(const QString& entree, const std::function<void()>& fonction);
     /// Does what the entry does when it is chosen; nothing for one that isn't hooked.
     void executer(const QString& entree);
 
