@@ -32,9 +32,8 @@ public:
     /// The pad types into this field too, while it is in hand: from when it is entered until another one is. The mark
     /// beside it shows then. A field of digits takes no point.
     void serve(TextField* field, QWidget* mark = nullptr);
-    /// The field in hand, counted in the order in which they were given; at first the first.
-    int inHand() const { return m_inHand; }
-    /// Takes a field in hand. Its number begins anew.
+    /// Takes a field in hand, counted in the order in which they were given; at first it is the first. Its number
+    /// begins anew.
     void turnTo(int field);
 
 signals:
