@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <charconv>
 #include <limits>
 
 namespace talor {
@@ -18,9 +19,10 @@ constexpr int anneeMin = 1900;
 constexpr int longueurDate = 10;
 
 /// What `Valeur` takes of a text: sign, digits, one point.
-QString partieNumerique(QStringView texte)
+QByteArray partieNumerique(QStringView texte)
 {
-    QString lu;
+    QByteArray lu;
+    lu.reserve(texte.size());
     bool point = false;
     for (const QChar c : texte) {
         if (c.isSpace())
@@ -30,7 +32,7 @@ QString partieNumerique(QStringView texte)
         if (!signe && !premierPoint && !(c >= u'0' && c <= u'9'))
             break;
         point = point || premierPoint;
-        lu += c;
+        lu += c.toLatin1();
     }
     return lu;
 }
@@ -39,7 +41,11 @@ QString partieNumerique(QStringView texte)
 
 double Valeur(QStringView texte)
 {
-    return partieNumerique(texte).toDouble();
+    const QByteArray lu = partieNumerique(texte);
+    const qsizetype debut = lu.startsWith('+') ? 1 : 0; // which from_chars does not know
+    double valeur = 0;
+    const auto fin = std::from_chars(lu.cbegin() + debut, lu.cend(), valeur);
+    return fin.ec == std::errc::result_out_of_range ? lu.toDouble() : valeur;
 }
 
 qint64 ValeurEntiere(QStringView texte)

@@ -22,6 +22,10 @@ TEST(Valeur, saute_les_blancs_et_s_arrete_au_premier_autre_caractere)
                                                   {".50", 0.5},
                                                   {"1 200 DA", 1200},
                                                   {"--4", 0},
+                                                  {"+7", 7},
+                                                  {"+", 0},
+                                                  {".", 0},
+                                                  {"12.", 12},
                                                   {"123456789012", 123456789012.0}};
     for (const auto& [texte, valeur] : cas)
         EXPECT_EQ(Valeur(QString::fromUtf8(texte)), valeur) << texte;

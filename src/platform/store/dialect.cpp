@@ -52,6 +52,17 @@ QByteArray selectRows(const Table& table)
     return sql + " from " + quoted(table.name);
 }
 
+QByteArray insertRow(const Table& table)
+{
+    QByteArray names;
+    QByteArray places;
+    for (const Field& field : table.fields) {
+        names += (names.isEmpty() ? "" : ", ") + quoted(field.name);
+        places += places.isEmpty() ? "?" : ", ?";
+    }
+    return "insert into " + quoted(table.name) + " (" + names + ") values (" + places + ')';
+}
+
 Query translate(const Catalogue& catalogue, const QString& query, const Lexed& lexed)
 {
     return Translator(catalogue, query, lexed).statement();

@@ -62,6 +62,7 @@ struct Query
     bool wholeTable = false; ///< every row, in the order of the key
     QByteArray rows;         ///< "select <key, all fields> from <table>"
     QByteArray row;          ///< the same for one key, a parameter
+    QByteArray insert;       ///< a new row, a parameter for each field
     QByteArray where;        ///< empty, or the condition in parentheses
     QByteArray order;        ///< ends with the key, so that no two rows are equal
     QByteArray reverseOrder;
@@ -93,5 +94,7 @@ QByteArray quoted(const QString& name);
 
 /// "select <key, all fields> from <table>"
 QByteArray selectRows(const Table& table);
+/// "insert into <table> (<all fields>) values (<a parameter each>)"
+QByteArray insertRow(const Table& table);
 
 } // namespace store

@@ -66,17 +66,11 @@ void Recordset::Impl::drop()
 
 qint64 Recordset::Impl::writeNew()
 {
-    QByteArray names;
-    QByteArray places;
     Values row;
-    const QList<Field>& fields = query->table->fields;
-    for (qsizetype i = 0; i < fields.size(); ++i) {
-        names += (i > 0 ? ", " : "") + quoted(fields[i].name);
-        places += i > 0 ? ", ?" : "?";
-        row.push_back(changes[std::size_t(i)].value_or(Value()));
-    }
-    database->write(*query->table,
-                    "insert into " + quoted(query->table->name) + " (" + names + ") values (" + places + ')', row);
+    row.reserve(changes.size());
+    for (const std::optional<Value>& change : changes)
+        row.push_back(change.value_or(Value()));
+    database->write(*query->table, query->insert, row);
     added.push_back(sqlite3_last_insert_rowid(database->connection.get()));
     return added.back();
 }

@@ -162,6 +162,7 @@ void Translator::writeRows(const Clauses& at)
     m_result.reverseOrder += "rowid desc";
     m_result.rows = selectRows(table);
     m_result.row = m_result.rows + " where rowid = ?";
+    m_result.insert = insertRow(table);
     m_sql = m_result.rows;
     if (!m_result.where.isEmpty())
         m_sql += " where " + m_result.where;

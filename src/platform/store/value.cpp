@@ -17,9 +17,13 @@ namespace {
 
 constexpr qsizetype isoLength = 10; ///< yyyy-MM-dd
 
-[[noreturn]] void refuse(const QVariant& value, const QString& place)
+/// Where a value is to go: into a field, or into a query where there is none.
+using Place = const Field*;
+
+[[noreturn]] void refuse(const QVariant& value, Place place)
 {
-    throw Error(Error::BadValue, u"La valeur « %1 » ne convient pas %2"_s.arg(value.toString(), place));
+    const QString shown = place ? u"au champ « %1 »"_s.arg(place->name) : u"dans une requête"_s;
+    throw Error(Error::BadValue, u"La valeur « %1 » ne convient pas %2"_s.arg(value.toString(), shown));
 }
 
 bool isText(const QVariant& value)
@@ -27,7 +31,7 @@ bool isText(const QVariant& value)
     return value.typeId() == QMetaType::QString || value.typeId() == QMetaType::QByteArray;
 }
 
-double finite(const QVariant& value, const QString& place)
+double finite(const QVariant& value, Place place)
 {
     bool ok = false;
     const double number = value.toDouble(&ok);
@@ -36,7 +40,7 @@ double finite(const QVariant& value, const QString& place)
     return number;
 }
 
-qint64 whole(const QVariant& value, const QString& place)
+qint64 whole(const QVariant& value, Place place)
 {
     bool ok = false;
     if (value.typeId() != QMetaType::Double && value.typeId() != QMetaType::Float) {
@@ -60,7 +64,7 @@ double single(double number)
     return std::isfinite(shown) ? shown : number;
 }
 
-Value dateValue(const QVariant& value, const QString& place)
+Value dateValue(const QVariant& value, Place place)
 {
     if (value.typeId() == QMetaType::QDate || value.typeId() == QMetaType::QDateTime)
         return value.toDate().toString(Qt::ISODate).toUtf8();
@@ -84,7 +88,7 @@ QByteArray textValue(const QVariant& value)
 
 Value queryValue(const QVariant& value, bool date)
 {
-    const QString place = u"dans une requête"_s;
+    constexpr Place place = nullptr;
     switch (value.typeId()) {
     case QMetaType::UnknownType:
     case QMetaType::Nullptr:
@@ -110,7 +114,7 @@ Value queryValue(const QVariant& value, bool date)
 
 Value fieldValue(const Field& field, const QVariant& value)
 {
-    const QString place = u"au champ « %1 »"_s.arg(field.name);
+    const Place place = &field;
     if (!value.isValid())
         return field.type == FieldType::YesNo ? Value(qint64(0)) : Value();
     switch (field.type) {
