@@ -69,7 +69,7 @@ qint64 Recordset::Impl::writeNew()
     Values row;
     row.reserve(changes.size());
     for (const std::optional<Value>& change : changes)
-        row.push_back(change.value_or(Value()));
+        row.push_back(change ? *change : Value());
     database->write(*query->table, query->insert, row);
     added.push_back(sqlite3_last_insert_rowid(database->connection.get()));
     return added.back();
